@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The value types that every folder shares.
+#pragma once
+
+#include <array>
+#include <cassert>
+#include <cstdint>
+
+namespace sdk {
+
+/// A boolean of 16 bits whose true is -1 (all bits set) and whose false is 0.
+class Bool16 {
+ public:
+  constexpr Bool16() = default;
+  constexpr Bool16(bool value) : bits_(value ? -1 : 0) {}
+  constexpr operator bool() const { return bits_ != 0; }
+  /// The stored bits: -1 or 0.
+  constexpr std::int16_t bits() const { return bits_; }
+
+ private:
+  std::int16_t bits_ = 0;
+};
+
+/// A 9x9 table addressed by row and column, both 1..9. Addressing outside is a programming error
+/// that debug and sanitised builds stop at.
+template <class T>
+class Square {
+ public:
+  constexpr T& operator()(int row, int column) { return cells_[index(row, column)]; }
+  constexpr const T& operator()(int row, int column) const { return cells_[index(row, column)]; }
+  constexpr bool operator==(const Square&) const = default;
+
+ private:
+  static constexpr std::size_t index(int row, int column) {
+    assert(row >= 1 && row <= 9 && column >= 1 && column <= 9);
+    return static_cast<std::size_t>((row - 1) * 9 + column - 1);
+  }
+
+  std::array<T, 81> cells_{};
+};
+
+}  // namespace sdk

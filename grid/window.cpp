@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "grid/window.hpp"
+
+#include <cassert>
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+namespace sdk {
+
+namespace {
+Window* the_window = nullptr;
+}
+
+Window::Window(Desktop& desktop) : desktop_(desktop) { the_window = this; }
+
+Window::~Window() { the_window = nullptr; }
+
+Window& sudoku() {
+  assert(the_window);
+  return *the_window;
+}
+
+void Window::show_count(int filled) {
+  set_caption(Control::Label, " " + std::to_string(filled) + " indices");
+}
+
+void Window::show_message(int index, Icon icon) {
+  desktop_.message_box(globals.Messages[static_cast<std::size_t>(index)], icon, Buttons::ok,
+                       globals.TitreFenetre);
+}
+
+std::string_view character(std::string_view text, int k) {
+  const auto position = static_cast<std::size_t>(k - 1);
+  return position < text.size() ? text.substr(position, 1) : std::string_view();
+}
+
+std::int16_t numeric_prefix(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  std::int16_t value = 0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
+}
+
+}  // namespace sdk

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// What each button, check box and the level list do, and the end of the program.
+
+#include <algorithm>
+
+#include "files/puzzle_file.hpp"
+#include "puzzles/library.hpp"
+#include "ui/main_window.hpp"
+
+namespace sdk {
+
+void MainWindow::click(Control button) {
+  using Procedure = void (MainWindow::*)();
+  struct Command {
+    Control button;
+    Procedure procedure;
+  };
+  static constexpr Command commands[] = {
+      {Control::Command1, &MainWindow::new_puzzle}, {Control::Command2, &MainWindow::clear},
+      {Control::Command3, &MainWindow::quit},       {Control::Command4, &MainWindow::print},
+      {Control::Command5, &MainWindow::about},      {Control::Command6, &MainWindow::load},
+      {Control::Command7, &MainWindow::essai},      {Control::Command8, &MainWindow::hint},
+      {Control::sauve, &MainWindow::save},          {Control::Bouton_GO, &MainWindow::solve},
+      {Control::aide, &MainWindow::help},
+  };
+  const auto* command = std::ranges::find(commands, button, &Command::button);
+  if (command != std::end(commands)) guarded([&] { (this->*command->procedure)(); });
+}
+
+void MainWindow::check(Control box, bool on) {
+  controls_[index(box)].checked = on;
+  if (listener_) listener_->controls_changed();
+  guarded([&] {
+    if (box == Control::Check1) VerifAuVol = on;
+    if (box == Control::Check2) show_candidates(on);
+    if (box == Control::Check3) globals.ProtegeGrille = on;
+  });
+}
+
+void MainWindow::show_candidates(bool shown) {
+  globals.AfficheCandidats = shown;
+  set_visible(Control::MSR, shown);
+  set_visible(Control::rect2, shown);
+  layout_ = sdk::layout(shown);
+  if (listener_) listener_->layout_changed();
+  MajCandidats();
+  trace_ligne();
+}
+
+void MainWindow::choose_level(std::optional<int> item) {
+  chosen_level_ = item;
+  globals.NiveauCourant = item ? levels_.at(static_cast<std::size_t>(*item)).level : std::int16_t{0};
+  globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
+  if (listener_) listener_->controls_changed();
+}
+
+void MainWindow::new_puzzle() {
+  set_visible(Control::Command8, true);
+  {
+    HiddenWhileWorking hidden(MSF);
+    globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
+    Nouvelle_Grille(resGrille, Masque);
+    ChaineGrille.clear();
+    ChaineSolution.clear();
+    set_title(globals.TitreFenetre);
+    for (int r = 1; r <= 9; ++r)
+      for (int c = 1; c <= 9; ++c) {
+        const std::string digit = std::to_string(resGrille(r, c));
+        MSF.make_current(r - 1, c - 1);
+        MSF.set_text(Masque(r, c) ? digit : " ");
+        MSF.set_back_colour(Masque(r, c) ? globals.CouleurDonnees : colour::white);
+        MSF.set_text_colour(colour::black);
+        ChaineSolution += digit;
+        ChaineGrille += MSF.current().text;
+      }
+    active();
+  }
+  MSF.refresh();
+  desktop().set_pointer(Pointer::arrow);
+  MajCandidats();
+  trace_ligne();
+}
+
+void MainWindow::clear() {
+  globals.ResolutionSilencieuse = false;
+  globals.GrilleOk = false;
+  {
+    HiddenWhileWorking hidden(MSF);
+    set_visible(Control::Command8, globals.ProtegeGrille);
+    for (int r = 0; r < DisplayGrid::size; ++r)
+      for (int c = 0; c < DisplayGrid::size; ++c) {
+        MSF.make_current(r, c);
+        if (!globals.ProtegeGrille) MSF.set_back_colour(colour::white);
+        if (MSF.current().back_colour == colour::white) MSF.set_text(" ");
+      }
+    maj_indices();
+  }
+  MSF.refresh();
+  MajCandidats();
+  trace_ligne();
+}
+
+void MainWindow::quit() {
+  if (confirm_quit()) throw ProgramEnd{0};
+  refresh();
+  trace_ligne();
+}
+
+bool MainWindow::close(CloseMode mode) {
+  return mode == CloseMode::session_end || confirm_quit();
+}
+
+bool MainWindow::confirm_quit() {
+  return desktop().message_box(globals.Messages[12] + globals.TitreFenetre + "? ", Icon::question,
+                               Buttons::yes_no, globals.TitreFenetre) == Answer::yes;
+}
+
+void MainWindow::save() {
+  const std::string name = desktop().save_dialog(file_filter);
+  if (name.empty()) return;
+  globals.ResolutionSilencieuse = false;
+  Save_Grille(name);
+}
+
+// The seams of the commands that are still to come.
+
+void MainWindow::load() {}
+
+void MainWindow::solve() { Resoudre(); }
+
+void MainWindow::hint() { globals.ModePasAPas = true; }
+
+void MainWindow::about() {}
+
+void MainWindow::help() {}
+
+void MainWindow::MajCandidats() { MSR.refresh(); }
+
+}  // namespace sdk

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// How a failure that nobody handles ends the program without losing the player's grid.
+
+#include "files/puzzle_file.hpp"
+#include "ui/main_window.hpp"
+#include "ui/messages.hpp"
+
+namespace sdk {
+
+void MainWindow::guarded(const std::function<void()>& handler) {
+  try {
+    handler();
+  } catch (const RuntimeError& error) {
+    end_fatally(error);
+  }
+}
+
+namespace {
+
+std::filesystem::path unused_name(const std::filesystem::path& folder) {
+  for (int n = 1;; ++n) {
+    const auto path = folder / ("SuDoKu-" + std::to_string(n) + ".sdk");
+    if (!std::filesystem::exists(path)) return path;
+  }
+}
+
+/// Saves the displayed grid beside earlier ones and says where, or why not.
+std::string rescue_grid(Desktop& desktop, const RuntimeError& error) {
+  try {
+    const auto path = unused_name(desktop.data_folder());
+    Save_Grille(path.string());
+    return notice(Notice::fatal_saved, globals.Langue, error.what(), path.string());
+  } catch (const std::exception& failure) {
+    return notice(Notice::fatal_not_saved, globals.Langue, error.what(), failure.what());
+  }
+}
+
+}  // namespace
+
+void MainWindow::end_fatally(const RuntimeError& error) {
+  const std::string text = rescue_grid(desktop(), error);
+  desktop().report_error(text);
+  desktop().message_box(text, Icon::critical, Buttons::ok, globals.TitreFenetre);
+  throw ProgramEnd{1};
+}
+
+}  // namespace sdk

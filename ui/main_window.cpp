@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/main_window.hpp"
+
+#include <utility>
+
+#include "ui/version.hpp"
+
+namespace sdk {
+
+MainWindow::MainWindow(Desktop& desktop) : Window(desktop) {}
+
+void MainWindow::start() {
+  guarded([this] {
+    globals = {};
+    globals.TitreFenetre = std::string("SuDoKu ") + program_version;
+    langage(globals.Langue);
+    inactive();
+    set_visible(Control::Command1, true);
+    set_visible(Control::Command6, true);
+    set_caption(Control::Label3, globals.TitreFenetre + globals.Messages[15]);
+    controls_[index(Control::Check3)].checked = true;
+    prepare_grid(MSF);
+    prepare_grid(MSR);
+    set_visible(Control::MSR, false);
+    set_visible(Control::rect2, false);
+    new_puzzle();
+  });
+}
+
+void MainWindow::prepare_grid(DisplayGrid& grid) {
+  for (int r = 0; r < DisplayGrid::size; ++r)
+    for (int c = 0; c < DisplayGrid::size; ++c) grid.set_text(r, c, " ");
+}
+
+bool MainWindow::visible(Control id) const {
+  if (id == Control::MSF) return MSF.visible();
+  if (id == Control::MSR) return MSR.visible();
+  return control(id).visible;
+}
+
+const std::string& MainWindow::level_text() const {
+  return globals.Messages.at(static_cast<std::size_t>(16 + globals.NiveauCourant));
+}
+
+void MainWindow::active() {
+  for (const Control id : {Control::Command2, Control::sauve, Control::Bouton_GO, Control::Command4,
+                           Control::Command6})
+    set_visible(id, true);
+}
+
+void MainWindow::inactive() {
+  for (const Control id : {Control::Command2, Control::Command6, Control::sauve, Control::Bouton_GO,
+                           Control::Command4})
+    set_visible(id, false);
+}
+
+void MainWindow::refresh() {
+  if (listener_) listener_->refresh();
+}
+
+void MainWindow::set_focus(Control control) {
+  focus_ = control;
+  if (listener_) listener_->focus_changed();
+}
+
+void MainWindow::set_visible(Control control, bool visible) {
+  if (control == Control::MSF) return MSF.set_visible(visible);
+  if (control == Control::MSR) return MSR.set_visible(visible);
+  controls_[index(control)].visible = visible;
+  if (listener_) listener_->controls_changed();
+}
+
+void MainWindow::set_caption(Control control, std::string caption) {
+  controls_[index(control)].caption = std::move(caption);
+  if (listener_) listener_->controls_changed();
+}
+
+void MainWindow::set_tooltip(Control control, std::string tooltip) {
+  controls_[index(control)].tooltip = std::move(tooltip);
+  if (listener_) listener_->controls_changed();
+}
+
+void MainWindow::set_title(std::string title) {
+  title_ = std::move(title);
+  if (listener_) listener_->controls_changed();
+}
+
+}  // namespace sdk

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The main window `sudoku` without any toolkit: start-up, every command, cell input. A front end
+/// shows its state and calls its handlers with the player's events.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "grid/drawing.hpp"
+#include "grid/errors.hpp"
+#include "grid/window.hpp"
+#include "ui/layout.hpp"
+
+namespace sdk {
+
+/// The codes of the keys that have a meaning; any other code means nothing.
+namespace key {
+inline constexpr int backspace = 8;
+inline constexpr int escape = 27;
+inline constexpr int del = 46;
+inline constexpr int digit_1 = 49, digit_9 = 57;  ///< the digits' character codes
+inline constexpr int a = 65, c = 67;              ///< the letters' upper-case character codes
+inline constexpr int keypad_1 = 97, keypad_9 = 105;
+inline constexpr int f1 = 112, f2 = 113;
+}  // namespace key
+
+/// Who asks the window to close.
+enum class CloseMode { window_command, session_end, task_manager };
+
+struct ControlState {
+  std::string caption;  ///< UTF-8, as are all texts of the window
+  std::string tooltip;
+  bool visible = true;
+  bool checked = false;  ///< check boxes only
+};
+
+struct LevelItem {
+  std::string name;
+  std::int16_t level;  ///< 0..4; the level is read from here, never from the position or the name
+};
+
+/// Who draws the window hears of its changes here.
+class WindowListener {
+ public:
+  virtual ~WindowListener() = default;
+  /// A caption, tooltip, tick or visibility, the level list or the window's title changed.
+  virtual void controls_changed() = 0;
+  virtual void layout_changed() = 0;
+  /// The box lines were drawn; they are in MainWindow::lines.
+  virtual void lines_drawn() = 0;
+  virtual void focus_changed() = 0;
+  /// What changed is to be on screen when the call returns.
+  virtual void refresh() = 0;
+};
+
+/// Every public handler ends the program by ProgramEnd when the player quits, and with status 1
+/// after a RuntimeError: the grid is then saved first and the player told where.
+class MainWindow final : public Window {
+ public:
+  explicit MainWindow(Desktop& desktop);
+
+  /// Start-up; every global takes its start value. At most one call.
+  void start();
+
+  /// A press of a button; other controls do nothing.
+  void click(Control button);
+  /// A check box takes a value and acts on it.
+  void check(Control box, bool on);
+  /// An item of the level list (0..4) is chosen; none reads as level 0.
+  void choose_level(std::optional<int> item);
+  /// A key pressed in the window, before the control that has the focus gets it.
+  void preview_key(int code);
+  /// A key pressed in `MSF`.
+  void key_down(int code, bool ctrl);
+  /// A mouse button went down or up on a grid, or the window changed its size.
+  void redraw_lines();
+  /// Whether the window may close. Asks the player, but for the end of the session.
+  bool close(CloseMode mode);
+
+  const ControlState& control(Control id) const { return controls_[index(id)]; }
+  bool visible(Control id) const;
+  const std::vector<LevelItem>& levels() const { return levels_; }
+  /// The chosen item of the level list, if any; a rebuilt list has none.
+  std::optional<int> chosen_level() const { return chosen_level_; }
+  /// What the level list shows: the current level's name.
+  const std::string& level_text() const;
+  const std::string& title() const { return title_; }
+  Control focus() const { return focus_; }
+  const Layout& layout() const { return layout_; }
+  /// What trace_ligne drew last.
+  const std::vector<LineDrawing>& lines() const { return lines_; }
+
+  /// Fills `Messages` for `language` and puts every text in its control. Chooses no level.
+  void langage(const std::string& language);
+
+  /// At most one listener; null for none.
+  void set_listener(WindowListener* listener) { listener_ = listener; }
+
+  void active() override;
+  void trace_ligne() override;
+  void MajCandidats() override;
+  void refresh() override;
+  void set_focus(Control control) override;
+  void set_visible(Control control, bool visible) override;
+  void set_caption(Control control, std::string caption) override;
+  void set_title(std::string title) override;
+
+ private:
+  static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
+
+  void guarded(const std::function<void()>& handler);
+  [[noreturn]] void end_fatally(const RuntimeError& error);
+
+  void set_tooltip(Control control, std::string tooltip);
+  void inactive();
+  void prepare_grid(DisplayGrid& grid);
+  void show_candidates(bool shown);
+  bool confirm_quit();
+
+  void new_puzzle();
+  void clear();
+  void quit();
+  void print();
+  void save();
+  void load();
+  void hint();
+  void solve();
+  void about();
+  void help();
+
+  void erase_selection();
+  void type_digit(char digit);
+  void write_digit(char digit);
+  void copy_rows();
+  void select_all();
+
+  std::array<ControlState, control_count> controls_;
+  std::vector<LevelItem> levels_;
+  std::optional<int> chosen_level_;
+  std::string title_;
+  Control focus_ = Control::MSF;
+  Layout layout_ = sdk::layout(false);
+  std::vector<LineDrawing> lines_;
+  WindowListener* listener_ = nullptr;
+};
+
+}  // namespace sdk

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/state_check.hpp"
+
+#include <algorithm>
+#include <string_view>
+
+#include "ui/messages.hpp"
+
+namespace sdk {
+
+namespace {
+
+/// Collects the first fault only; what follows it is usually its consequence.
+class Check {
+ public:
+  void expect(bool holds, const std::string& what) {
+    if (!holds && fault_.empty()) fault_ = what;
+  }
+  std::string fault() && { return std::move(fault_); }
+
+ private:
+  std::string fault_;
+};
+
+std::string cell_name(std::string_view grid, int row, int column) {
+  return std::string(grid) + " r" + std::to_string(row) + "c" + std::to_string(column);
+}
+
+bool is_between(int value, int low, int high) { return value >= low && value <= high; }
+
+bool all_digits_or(std::string_view text, char other) {
+  return std::ranges::all_of(
+      text, [other](char c) { return (c >= '0' && c <= '9') || c == other; });
+}
+
+void check_puzzle_cell(Check& check, const DisplayGrid& grid, int row, int column) {
+  const DisplayCell& cell = grid.cell(row - 1, column - 1);
+  const std::string name = cell_name("MSF", row, column);
+  check.expect(cell.text.size() <= 1, name + " holds more than one character");
+  check.expect(cell.text_colour == colour::black || cell.text_colour == colour::green ||
+                   cell.text_colour == colour::red,
+               name + " has an unknown text colour");
+  check.expect(cell.back_colour == colour::white || cell.back_colour == colour::from_file ||
+                   std::ranges::count(colour::level, cell.back_colour) == 1,
+               name + " has an unknown background");
+}
+
+void check_cells(Check& check, const MainWindow& w) {
+  for (int r = 1; r <= 9; ++r)
+    for (int c = 1; c <= 9; ++c) {
+      check_puzzle_cell(check, w.MSF, r, c);
+      check.expect(is_between(w.MSR.cell(r - 1, c - 1).mark, 0, 6),
+                   cell_name("MSR", r, c) + " has an unknown mark");
+      check.expect(is_between(w.Grille(r, c), 0, 9), cell_name("Grille", r, c) + " out of range");
+      check.expect(is_between(w.GrilleInitiale(r, c), 0, 9),
+                   cell_name("GrilleInitiale", r, c) + " out of range");
+      check.expect(is_between(w.resGrille(r, c), 0, 9),
+                   cell_name("resGrille", r, c) + " out of range");
+    }
+}
+
+void check_chains(Check& check, const MainWindow& w) {
+  check.expect(w.ChaineSolution.size() <= 81, "ChaineSolution is too long");
+  check.expect(all_digits_or(w.ChaineSolution, '0'), "ChaineSolution holds more than digits");
+}
+
+void check_globals(Check& check) {
+  check.expect(is_between(globals.NiveauCourant, 0, 4), "NiveauCourant out of range");
+  check.expect(globals.CouleurDonnees == colour::from_file ||
+                   std::ranges::count(colour::level, globals.CouleurDonnees) == 1,
+               "CouleurDonnees is no colour of givens");
+  check.expect(globals.Langue == "Fr" || globals.Langue == "En", "Langue is unknown");
+  check.expect(globals.Messages == messages_in(globals.Langue), "Messages differ from Langue");
+  check.expect(!globals.ResolutionSilencieuse, "ResolutionSilencieuse outlived its solve");
+}
+
+void check_controls(Check& check, const MainWindow& w) {
+  check.expect(w.MSF.visible(), "MSF stayed hidden");
+  check.expect(w.MSR.visible() == bool(globals.AfficheCandidats), "MSR is not as Check2 says");
+  check.expect(w.visible(Control::rect2) == w.MSR.visible(), "rect2 is not as MSR");
+  check.expect(w.control(Control::Check1).checked == bool(w.VerifAuVol), "Check1 differs");
+  check.expect(w.control(Control::Check3).checked == bool(globals.ProtegeGrille), "Check3 differs");
+  check.expect(w.visible(Control::Command1), "Command1 is hidden");
+  check.expect(w.levels().size() == 5, "Niveau has lost its items");
+  check.expect(w.searches_running == 0, "a search is still counted");
+  check.expect(w.MSF.tab_stop() && w.MSF.marks_current(), "MSF stayed without focus marks");
+  check.expect(w.lines().size() == (w.MSR.visible() ? 8u : 4u), "box lines are missing");
+}
+
+}  // namespace
+
+std::string state_fault(const MainWindow& window) {
+  Check check;
+  check_cells(check, window);
+  check_chains(check, window);
+  check_globals(check);
+  check_controls(check, window);
+  return std::move(check).fault();
+}
+
+}  // namespace sdk
