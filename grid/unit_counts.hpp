@@ -35,9 +35,7 @@ class UnitCounts {
   }
 
  private:
-  static std::size_t at(int unit, int digit) {
-    return static_cast<std::size_t>(unit * 10 + digit);
-  }
+  static std::size_t at(int unit, int digit) { return static_cast<std::size_t>(unit * 10 + digit); }
   static int box(int row, int column) { return (row - 1) / 3 * 3 + (column - 1) / 3 + 1; }
 
   void add(int row, int column, int digit, int step) {

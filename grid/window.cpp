@@ -3,8 +3,8 @@
 
 #include "grid/window.hpp"
 
-#include <cassert>
 #include <algorithm>
+#include <cassert>
 #include <charconv>
 #include <utility>
 

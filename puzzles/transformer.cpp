@@ -35,8 +35,7 @@ void Echanger(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque, std::stri
 
 void Echanger_Bandes(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque,
                      std::string_view direction, int a, int b) {
-  for (int k = 1; k <= 3; ++k)
-    Echanger(resGrille, Masque, direction, 3 * a - 3 + k, 3 * b - 3 + k);
+  for (int k = 1; k <= 3; ++k) Echanger(resGrille, Masque, direction, 3 * a - 3 + k, 3 * b - 3 + k);
 }
 
 void Renumeroter(std::span<const int, 9> digits, Square<std::uint8_t>& resGrille) {

@@ -20,8 +20,8 @@ void Transformer_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque)
 /// Shuffles `list` in place, every order equally likely. Elements must not be negative.
 void Melanger(std::span<int> list);
 
-/// Exchanges lines a and b (1..9) in both squares: rows when `direction` is "vertical", columns when
-/// it is "horizontal"; any other word changes nothing.
+/// Exchanges lines a and b (1..9) in both squares: rows when `direction` is "vertical", columns
+/// when it is "horizontal"; any other word changes nothing.
 void Echanger(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque, std::string_view direction,
               int a, int b);
 

@@ -51,7 +51,8 @@ void MainWindow::show_candidates(bool shown) {
 
 void MainWindow::choose_level(std::optional<int> item) {
   chosen_level_ = item;
-  globals.NiveauCourant = item ? levels_.at(static_cast<std::size_t>(*item)).level : std::int16_t{0};
+  globals.NiveauCourant =
+      item ? levels_.at(static_cast<std::size_t>(*item)).level : std::int16_t{0};
   globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
   if (listener_) listener_->controls_changed();
 }
@@ -108,9 +109,7 @@ void MainWindow::quit() {
   trace_ligne();
 }
 
-bool MainWindow::close(CloseMode mode) {
-  return mode == CloseMode::session_end || confirm_quit();
-}
+bool MainWindow::close(CloseMode mode) { return mode == CloseMode::session_end || confirm_quit(); }
 
 bool MainWindow::confirm_quit() {
   return desktop().message_box(globals.Messages[12] + globals.TitreFenetre + "? ", Icon::question,

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// Where the window and its grids stand. All values are in twips, from the window's top left corner.
+/// Where the window and its grids stand. All values are in twips, from the window's top left
+/// corner.
 #pragma once
 
 namespace sdk {

@@ -31,8 +31,8 @@ std::string cell_name(std::string_view grid, int row, int column) {
 bool is_between(int value, int low, int high) { return value >= low && value <= high; }
 
 bool all_digits_or(std::string_view text, char other) {
-  return std::ranges::all_of(
-      text, [other](char c) { return (c >= '0' && c <= '9') || c == other; });
+  return std::ranges::all_of(text,
+                             [other](char c) { return (c >= '0' && c <= '9') || c == other; });
 }
 
 void check_puzzle_cell(Check& check, const DisplayGrid& grid, int row, int column) {
