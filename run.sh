@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 the SuDoKu team
+# SPDX-License-Identifier: MIT
+
+# Installs what is missing, builds the game and starts it.
+#   ./run.sh [puzzle.sdk]
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+
+build() {
+  echo "Building the game."
+  if [[ ! -f $root/build/build.ninja ]]; then
+    (cd "$root" && cmake --preset release -D BUILD_TESTING=OFF >/dev/null)
+  fi
+  cmake --build "$root/build" --target sudoku tools/all
+}
+
+if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
+  "$root/scripts/setup.sh" play
+  build
+  echo "Starting the game."
+  exec "$root/build/bin/sudoku" "$@"
+fi
+"$root/scripts/setup.sh" play picture
+build
+exec "$root/scripts/run_without_display.sh" "$root/build/window.png" "$root/build/bin/sudoku" "$@"

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 the SuDoKu team
+# SPDX-License-Identifier: MIT
+
+# Refuses every include that goes against the call direction, and Qt outside ui/qt/.
+#   scripts/check_layers.sh [ROOT]    prints FILE:LINE of each; exit status 1 when there is any
+set -euo pipefail
+cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
+
+# folder: what its sources may include. The deepest folder that holds a file counts.
+layers='
+grid: grid
+puzzles: puzzles grid
+pas_a_pas: pas_a_pas grid
+files: files grid
+ui: ui puzzles pas_a_pas files grid
+ui/qt: ui/qt ui puzzles pas_a_pas files grid
+tools: tools ui puzzles pas_a_pas files grid
+'
+
+echo "Checking that no include goes upward."
+find grid puzzles pas_a_pas files ui tools -name '*.[ch]pp' -print0 | sort -z |
+  LAYERS=$layers xargs -0 awk '
+    BEGIN {
+      count = split(ENVIRON["LAYERS"], lines, "\n")
+      for (i = 1; i <= count; ++i)
+        if (split(lines[i], parts, ": *") == 2) allowed[parts[1]] = " " parts[2] " "
+    }
+    function folder_of(path) {
+      while (sub("/[^/]*$", "", path)) if (path in allowed) return path
+      return ""
+    }
+    function refuse(why) {
+      print FILENAME ":" FNR ": " why ": " $0
+      refused = 1
+    }
+    FNR == 1 { own = folder_of(FILENAME) }
+    /^[ \t]*#[ \t]*include/ {
+      quoted = /"/
+      path = $0
+      gsub(/^[^<"]*[<"]|[>"].*$/, "", path)
+      target = folder_of(path)
+      if (path ~ /^(Q|qt|q[a-z0-9]+\.h$)/) {
+        if (own != "ui/qt") refuse("Qt is for ui/qt alone")
+      } else if (target == "" ? quoted : index(allowed[own], " " target " ") == 0) {
+        refuse(own "/ may include" allowed[own] "only")
+      }
+    }
+    END { exit refused }' || exit 1

@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 the SuDoKu team
+# SPDX-License-Identifier: MIT
+
+# The layering check accepts what may be included, and names file and line of what may not.
+#   refused_includes.sh PATH/TO/check_layers.sh
+set -euo pipefail
+check=$1
+tree=$(mktemp -d)
+trap 'rm -rf "$tree"' EXIT
+mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/script}
+failures=0
+
+expect() { # STATUS EXPECTED-OUTPUT FILE LINE: what the check says of FILE with LINE as its second
+  printf '#pragma once\n%s\n' "$4" >"$tree/$3"
+  local status=0 output
+  output=$("$check" "$tree") || status=$?
+  rm "$tree/$3"
+  if ((($1 == 0) != (status == 0))) || [[ $output != *"$2"* ]]; then
+    echo "$3 with '$4': status $status, output: $output"
+    failures=$((failures + 1))
+  fi
+}
+
+accepted() { expect 0 "" "$@"; }
+refused() { expect 1 "$1:2: " "$@"; }
+
+accepted grid/a.cpp '#include "grid/window.hpp"'
+accepted grid/a.cpp '#include <queue>'
+accepted puzzles/a.hpp '#include "grid/types.hpp"'
+accepted pas_a_pas/techniques/a.cpp '#include "pas_a_pas/cube.hpp"'
+accepted ui/a.cpp '#include "files/puzzle_file.hpp"'
+accepted ui/qt/a.cpp '#include <QWidget>'
+accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
+accepted tools/script/a.cpp '#include "ui/main_window.hpp"'
+
+refused grid/a.cpp '#include "ui/main_window.hpp"'
+refused grid/a.hpp '#  include <puzzles/library.hpp>'
+refused puzzles/a.cpp '#include "files/puzzle_file.hpp"'
+refused pas_a_pas/techniques/a.cpp '#include "ui/layout.hpp"'
+refused files/a.cpp '#include "pas_a_pas/cube.hpp"'
+refused ui/a.cpp '#include "ui/qt/board.hpp"'
+refused ui/a.cpp '#include "tests/support.hpp"'
+refused ui/a.cpp '#include "layout.hpp"'
+refused ui/a.cpp '#include <QWidget>'
+refused ui/a.cpp '#include <QtGui/QPen>'
+refused grid/a.cpp '#include "qpoint.h"'
+refused tools/script/a.cpp '#include <QCoreApplication>'
+
+exit $((failures > 0))
