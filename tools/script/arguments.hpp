@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The words that follow a command's name.
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "grid/controls.hpp"
+
+namespace sdk {
+
+/// What an understood command does when it happens.
+using Action = std::function<void()>;
+
+/// Why a command cannot be understood or cannot happen.
+struct ScriptError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// Takes blank-separated arguments one by one. Every procedure that takes one throws ScriptError
+/// when it is missing or is not what was asked for.
+class Arguments {
+ public:
+  explicit Arguments(std::string_view text);
+
+  bool empty() const { return text_.empty(); }
+  /// The next word, without taking it; empty when there is none.
+  std::string_view next() const;
+  /// `what` names the argument to whoever reads the error.
+  std::string word(std::string_view what);
+  /// All that is left, blanks inside included.
+  std::string rest(std::string_view what);
+  /// A decimal number from `low` to `high`.
+  long number(std::string_view what, long low, long high);
+  /// Whether the next word is `yes` rather than `no`.
+  bool choice(std::string_view yes, std::string_view no);
+  Control control();
+  /// Throws ScriptError when something is left.
+  void end() const;
+
+ private:
+  std::string_view text_;
+};
+
+}  // namespace sdk

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "tools/script/commands.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+#include "tools/script/control_names.hpp"
+#include "tools/script/keyboard.hpp"
+#include "tools/script/script.hpp"
+#include "tools/script/show.hpp"
+
+namespace sdk {
+
+namespace {
+
+void require_visible(Script& script, Control control) {
+  if (!script.window().visible(control))
+    throw ScriptError(std::string(control_name(control)) + " is hidden");
+}
+
+Action seed(Script& script, Arguments& arguments) {
+  const long n = arguments.number("N", 0, std::numeric_limits<std::uint32_t>::max());
+  return [&script, n] { script.desktop().settings.seed = static_cast<std::uint32_t>(n); };
+}
+
+Action printer(Script& script, Arguments& arguments) {
+  const bool on = arguments.choice("on", "off");
+  return [&script, on] { script.desktop().settings.printer = on; };
+}
+
+Action year(Script& script, Arguments& arguments) {
+  const long n = arguments.number("N", 0, 9999);
+  return [&script, n] { script.desktop().settings.year = static_cast<int>(n); };
+}
+
+Action program(Script& script, Arguments& arguments) {
+  const std::string folder = arguments.rest("DIR");
+  return [&script, folder] { script.desktop().settings.program = folder; };
+}
+
+Action tmp(Script&, Arguments& arguments) {
+  const std::string folder = arguments.rest("DIR");
+  return [folder] { setenv("tmp", folder.c_str(), 1); };
+}
+
+Action click(Script& script, Arguments& arguments) {
+  const Control button = arguments.control();
+  if (!is_button(button)) throw ScriptError("no button: " + std::string(control_name(button)));
+  return [&script, button] {
+    require_visible(script, button);
+    script.window().click(button);
+  };
+}
+
+Action check(Script& script, Arguments& arguments) {
+  const Control box = arguments.control();
+  if (!is_check_box(box)) throw ScriptError("no check box: " + std::string(control_name(box)));
+  const bool on = arguments.choice("on", "off");
+  return [&script, box, on] {
+    require_visible(script, box);
+    script.window().check(box, on);
+  };
+}
+
+Action level(Script& script, Arguments& arguments) {
+  std::optional<int> item;
+  if (arguments.next() == "none")
+    arguments.word("N");
+  else
+    item = static_cast<int>(arguments.number("N", 0, 4));
+  return [&script, item] {
+    require_visible(script, Control::Niveau);
+    script.window().choose_level(item);
+  };
+}
+
+int line_number(Arguments& arguments, const char* what) {
+  return static_cast<int>(arguments.number(what, 1, DisplayGrid::size)) - 1;
+}
+
+Action select(Script& script, Arguments& arguments) {
+  const int row = line_number(arguments, "R");
+  const int column = line_number(arguments, "C");
+  const bool block = !arguments.empty();
+  const int other_row = block ? line_number(arguments, "R2") : row;
+  const int other_column = block ? line_number(arguments, "C2") : column;
+  return [=, &script] {
+    script.window().MSF.select(row, column, other_row, other_column);
+    script.window().redraw_lines();
+  };
+}
+
+Action press_key(Script& script, Arguments& arguments) {
+  const Key pressed = key_named(arguments.word("K"));
+  return [&script, pressed] { press(script.window(), pressed); };
+}
+
+Action answer(Script& script, Arguments& arguments) {
+  if (arguments.next() == "file") {
+    arguments.word("file");
+    const std::string path = arguments.rest("PATH");
+    return [&script, path] { script.desktop().queue_file(path); };
+  }
+  const Answer given = arguments.choice("yes", "no") ? Answer::yes : Answer::no;
+  return [&script, given] { script.desktop().queue_answer(given); };
+}
+
+Action at(Script& script, Arguments& arguments) {
+  const long step = arguments.number("N", 1, std::numeric_limits<int>::max());
+  const Action action = script.understand(arguments.rest("COMMAND"));
+  return [&script, step, action] {
+    script.schedule().add(step, [&script, action] { script.attempt(action); });
+  };
+}
+
+CloseMode close_mode(const std::string& name) {
+  if (name == "window") return CloseMode::window_command;
+  if (name == "taskmanager") return CloseMode::task_manager;
+  if (name == "session") return CloseMode::session_end;
+  throw ScriptError("not window, taskmanager or session: " + name);
+}
+
+Action close(Script& script, Arguments& arguments) {
+  const CloseMode mode = close_mode(arguments.word("window, taskmanager or session"));
+  return [&script, mode] {
+    if (script.window().close(mode)) throw ProgramEnd{0};
+  };
+}
+
+constexpr auto setting = Command::Role::setting;
+constexpr auto event = Command::Role::event;
+
+constexpr Command table[] = {
+    {"seed", "N", "every later puzzle pick seeds the generator with N, not the clock", setting,
+     seed},
+    {"printer", "on|off", "whether a printer is there (default on)", setting, printer},
+    {"year", "N", "the clock's year", setting, year},
+    {"program", "DIR", "the program's own folder", setting, program},
+    {"tmp", "DIR", "the folder of the environment variable tmp", setting, tmp},
+    {"click", "NAME", "press a button (Command1..Command8, sauve, Bouton_GO, aide)", event, click},
+    {"check", "NAME on|off", "Check1, Check2, Check3", event, check},
+    {"level", "N|none", "choose item N (0..4) of Niveau; none: with no item selected", event,
+     level},
+    {"select", "R C [R2 C2]", "current cell / selection of MSF", event, select},
+    {"key", "K",
+     "1..9, kp0..kp9, 0, a..z, Delete, Backspace, Left, Right, Up, Down, Ctrl+C, Ctrl+A, F1, F2, "
+     "Escape",
+     event, press_key},
+    {"answer", "yes|no | file PATH",
+     "answer of the next Yes/No box or file dialog; queued. Without one a box is answered no and a "
+     "dialog cancelled. Other boxes take none",
+     event, answer},
+    {"at", "N COMMAND",
+     "COMMAND happens at the N-th \"let pending events run\" of the next search; dropped when the "
+     "search ends before",
+     event, at},
+    {"close", "window|taskmanager|session", "ask the window to close", event, close},
+    {"show", "WHAT", "print a part of the state (below)", event, show},
+};
+
+}  // namespace
+
+std::span<const Command> commands() { return table; }
+
+const Command* command_named(std::string_view name) {
+  const auto* found = std::ranges::find(table, name, &Command::name);
+  return found == std::end(table) ? nullptr : found;
+}
+
+}  // namespace sdk

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "tools/script/script_desktop.hpp"
+
+#include <chrono>
+#include <cstdlib>
+#include <ostream>
+
+#include "grid/errors.hpp"
+#include "tools/script/text_format.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr PageSize a4_in_twips{11906, 16838};
+
+const char* icon_name(Icon icon) {
+  switch (icon) {
+    case Icon::none:
+      return "none";
+    case Icon::exclamation:
+      return "exclamation";
+    case Icon::critical:
+      return "critical";
+    case Icon::question:
+      return "question";
+  }
+  return "";
+}
+
+const char* answer_name(Answer answer) {
+  switch (answer) {
+    case Answer::ok:
+      return "ok";
+    case Answer::yes:
+      return "yes";
+    case Answer::no:
+      return "no";
+  }
+  return "";
+}
+
+/// Prints the drawings of a page, one a line.
+struct DrawingPrinter {
+  std::ostream& out;
+
+  void operator()(const TextDrawing& t) const {
+    out << "print text " << decimal(t.x) << ' ' << decimal(t.y) << ' ' << in_quotes(t.font) << ' '
+        << t.size << ' ' << in_quotes(t.text) << '\n';
+  }
+  void operator()(const PictureDrawing& p) const {
+    out << "print picture " << decimal(p.x) << ' ' << decimal(p.y) << ' ' << decimal(p.width) << ' '
+        << decimal(p.height) << '\n';
+  }
+  void operator()(const LineDrawing& line) const { out << "print " << line_text(line) << '\n'; }
+};
+
+std::filesystem::path data_home() {
+  if (const char* home = std::getenv("XDG_DATA_HOME"); home && *home) return home;
+  const char* home = std::getenv("HOME");
+  return std::filesystem::path(home ? home : "") / ".local" / "share";
+}
+
+}  // namespace
+
+const char* pointer_name(Pointer shape) { return shape == Pointer::arrow ? "arrow" : "hourglass"; }
+
+Answer ScriptDesktop::next_answer() {
+  if (answers_.empty()) return Answer::no;
+  const Answer answer = answers_.front();
+  answers_.pop_front();
+  return answer;
+}
+
+Answer ScriptDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
+                                  const std::string& title) {
+  const bool asks = buttons == Buttons::yes_no;
+  const Answer answer = asks ? next_answer() : Answer::ok;
+  out_ << "box " << icon_name(icon) << ' ' << in_quotes(title) << ' ' << in_quotes(text)
+       << (asks ? " yes,no -> " : " ok -> ") << answer_name(answer) << '\n';
+  return answer;
+}
+
+std::string ScriptDesktop::file_dialog(const char* kind, const std::string& filter) {
+  std::string path;
+  if (!files_.empty()) {
+    path = std::move(files_.front());
+    files_.pop_front();
+  }
+  out_ << "dialog " << kind << ' ' << in_quotes(filter) << " -> "
+       << (path.empty() ? "cancelled" : in_quotes(path)) << '\n';
+  return path;
+}
+
+std::string ScriptDesktop::open_dialog(const std::string& filter) {
+  return file_dialog("open", filter);
+}
+
+std::string ScriptDesktop::save_dialog(const std::string& filter) {
+  return file_dialog("save", filter);
+}
+
+void ScriptDesktop::set_pointer(Pointer shape) {
+  if (shape == pointer_) return;
+  pointer_ = shape;
+  out_ << "pointer " << pointer_name(shape) << '\n';
+}
+
+PageSize ScriptDesktop::printer_page() {
+  if (!settings.printer) throw RuntimeError("printer", "no default printer");
+  return a4_in_twips;
+}
+
+void ScriptDesktop::print(const Page& page) {
+  out_ << "print begin\n";
+  for (const Drawing& drawing : page) std::visit(DrawingPrinter{out_}, drawing);
+  out_ << "print end\n";
+}
+
+std::uint32_t ScriptDesktop::random_seed() {
+  if (settings.seed) return *settings.seed;
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return static_cast<std::uint32_t>(
+      std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+}
+
+std::filesystem::path ScriptDesktop::data_folder() {
+  const auto folder = data_home() / "SuDoKu";
+  std::error_code failure;
+  std::filesystem::create_directories(folder, failure);
+  if (failure) throw RuntimeError(folder.string(), failure.message());
+  return folder;
+}
+
+void ScriptDesktop::report_error(const std::string& line) { errors_ << line << std::endl; }
+
+}  // namespace sdk

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The desktop as text: what the player would see is printed, what the player would answer is taken
+/// from queues.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+
+#include "grid/desktop.hpp"
+
+namespace sdk {
+
+/// What a script settles about the machine.
+struct MachineSettings {
+  std::optional<std::uint32_t> seed;  ///< of every puzzle; none: the clock
+  bool printer = true;
+  std::optional<int> year;        ///< none: the clock's
+  std::filesystem::path program;  ///< the program's own folder; empty: the real one
+};
+
+class ScriptDesktop final : public Desktop {
+ public:
+  /// Both streams must outlive the desktop.
+  ScriptDesktop(std::ostream& out, std::ostream& errors) : out_(out), errors_(errors) {}
+
+  MachineSettings settings;
+
+  /// What happens whenever the program lets pending events run.
+  void set_events(std::function<void()> events) { events_ = std::move(events); }
+  /// Answers are taken in the order in which they were queued.
+  void queue_answer(Answer answer) { answers_.push_back(answer); }
+  void queue_file(std::string path) { files_.push_back(std::move(path)); }
+
+  Pointer pointer() const { return pointer_; }
+  const std::string& clipboard() const { return clipboard_; }
+
+  /// A Yes/No box without a queued answer is answered No.
+  Answer message_box(const std::string& text, Icon icon, Buttons buttons,
+                     const std::string& title) override;
+  /// A dialog without a queued answer is cancelled.
+  std::string open_dialog(const std::string& filter) override;
+  std::string save_dialog(const std::string& filter) override;
+  void set_pointer(Pointer shape) override;
+  void let_events_run() override { events_(); }
+  void set_clipboard(const std::string& text) override { clipboard_ = text; }
+  PageSize printer_page() override;
+  void print(const Page& page) override;
+  std::uint32_t random_seed() override;
+  std::filesystem::path data_folder() override;
+  void report_error(const std::string& line) override;
+
+ private:
+  Answer next_answer();
+  std::string file_dialog(const char* kind, const std::string& filter);
+
+  std::ostream& out_;
+  std::ostream& errors_;
+  std::function<void()> events_ = [] {};
+  std::deque<Answer> answers_;
+  std::deque<std::string> files_;
+  Pointer pointer_ = Pointer::arrow;
+  std::string clipboard_;
+};
+
+/// "arrow" or "hourglass".
+const char* pointer_name(Pointer shape);
+
+}  // namespace sdk
