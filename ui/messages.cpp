@@ -57,7 +57,7 @@ constexpr std::array<Text, 35> messages{{
 }};
 
 /// In the order of Notice.
-constexpr std::array<Text, 7> notices{{
+constexpr std::array<Text, 8> notices{{
     {"SuDoKu doit s'arrêter (%1). La grille est sauvée dans %2",
      "SuDoKu has to stop (%1). The grid was saved in %2"},
     {"SuDoKu doit s'arrêter (%1). La grille n'a pas pu être sauvée (%2)",
@@ -67,6 +67,7 @@ constexpr std::array<Text, 7> notices{{
     {"Grille", "Puzzle"},
     {"Candidats", "Candidates"},
     {"Niveau", "Level"},
+    {"Suggestion", "Hint"},
 }};
 
 void fill_in(std::string& text, std::string_view place, std::string_view value) {

@@ -23,6 +23,7 @@ enum class Notice {
   puzzle,           ///< accessible name of `MSF`
   candidates,       ///< accessible name of `MSR`
   level,            ///< accessible name of `Niveau`
+  hint,             ///< accessible name and tooltip of `Command8`
 };
 
 /// The notice in `language` (chosen as in messages_in), filled in.

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/cell_painter.hpp"
+
+#include <QPainter>
+#include <QStringList>
+
+namespace sdk {
+
+namespace {
+
+constexpr QColor thin_line(0, 0, 0, 56);
+constexpr int absent_candidate_alpha = 80;
+
+QFont font_of_size(const QPainter& painter, int points) {
+  QFont font = painter.font();
+  font.setPixelSize(points * 4 / 3);
+  return font;
+}
+
+void paint_thin_lines(QPainter& painter, const QRect& square) {
+  painter.fillRect(QRect(square.left(), square.bottom(), square.width(), 1), thin_line);
+  painter.fillRect(QRect(square.right(), square.top(), 1, square.height() - 1), thin_line);
+}
+
+/// A candidate, or the pale dot where there is none.
+void paint_candidate(QPainter& painter, const QRect& place, const QString& entry, QColor colour) {
+  if (entry == ".") colour.setAlpha(absent_candidate_alpha);
+  painter.setPen(colour);
+  painter.drawText(place, Qt::AlignCenter, entry);
+}
+
+void paint_candidates(QPainter& painter, const QRect& square, const QStringList& lines,
+                      const QColor& colour) {
+  constexpr int margin = 2, entry_side = (cell_side - 2 * margin) / 3, entry_length = 3;
+  for (int line = 0; line < lines.size(); ++line)
+    for (int column = 0; column < 3; ++column)
+      paint_candidate(painter,
+                      QRect(square.left() + margin + column * entry_side,
+                            square.top() + margin + line * entry_side, entry_side, entry_side),
+                      lines[line].mid(column * entry_length, entry_length).trimmed(), colour);
+}
+
+void paint_text(QPainter& painter, const QRect& square, const DisplayCell& cell) {
+  const QColor colour = to_qcolor(cell.text_colour);
+  const QString text = to_qstring(cell.text);
+  if (text.contains('\r')) return paint_candidates(painter, square, text.split('\r'), colour);
+  painter.setPen(colour);
+  painter.drawText(square, Qt::AlignCenter, text);
+}
+
+}  // namespace
+
+QColor to_qcolor(Colour colour) {
+  return QColor(colour::red_of(colour), colour::green_of(colour), colour::blue_of(colour));
+}
+
+QString to_qstring(const std::string& cell_text) { return QString::fromLatin1(cell_text); }
+
+void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
+                int grid_font_size) {
+  painter.fillRect(square, to_qcolor(cell.back_colour));
+  paint_thin_lines(painter, square);
+  if (cell.text == " ") return;
+  painter.setFont(font_of_size(painter, cell.font_size > 0 ? cell.font_size : grid_font_size));
+  paint_text(painter, square, cell);
+}
+
+void paint_puzzle(QPainter& painter, const DisplayGrid& puzzle) {
+  for (int r = 0; r < DisplayGrid::size; ++r)
+    for (int c = 0; c < DisplayGrid::size; ++c)
+      paint_cell(painter, QRect(c * cell_side, r * cell_side, cell_side, cell_side),
+                 puzzle.cell(r, c), puzzle_font_size);
+}
+
+}  // namespace sdk

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// How a cell looks, on screen and on paper.
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include "grid/display_grid.hpp"
+
+class QPainter;
+class QRect;
+
+namespace sdk {
+
+/// The side of a cell in the painter's units.
+inline constexpr int cell_side = 52;
+
+/// The grids' own font sizes in points, where a point is 4/3 of those units.
+inline constexpr int puzzle_font_size = 22;
+inline constexpr int candidates_font_size = 10;
+
+/// The colour as Qt has it.
+QColor to_qcolor(Colour colour);
+/// A cell's text, whose bytes are characters of the single-byte code page.
+QString to_qstring(const std::string& cell_text);
+
+/// Paints one cell of side cell_side: background, thin lines and text. Three lines separated by
+/// character 13 become nine entries in three columns.
+void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
+                int grid_font_size);
+
+/// Paints all 81 cells of a puzzle with its top left corner at the origin.
+void paint_puzzle(QPainter& painter, const DisplayGrid& puzzle);
+
+}  // namespace sdk

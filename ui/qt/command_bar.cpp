@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/command_bar.hpp"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ui/messages.hpp"
+#include "ui/qt/icons.hpp"
+
+namespace sdk {
+
+namespace {
+
+struct ButtonLook {
+  Control control;
+  const char* name;
+  const char* icon;
+  bool starts_group;
+};
+
+/// From left to right: the puzzle and its file, help with solving it, the program.
+constexpr ButtonLook button_looks[] = {
+    {Control::Command1, "Command1", "new", false},
+    {Control::Command6, "Command6", "load", false},
+    {Control::sauve, "sauve", "save", false},
+    {Control::Command4, "Command4", "print", false},
+    {Control::Command8, "Command8", "hint", true},
+    {Control::Command7, "Command7", "verify", false},
+    {Control::Bouton_GO, "Bouton_GO", "solve", false},
+    {Control::Command2, "Command2", "clear", false},
+    {Control::aide, "aide", "help", true},
+    {Control::Command5, "Command5", "about", false},
+    {Control::Command3, "Command3", "quit", false},
+};
+
+constexpr int icon_side = 28;
+constexpr int button_side = 46;
+constexpr int group_gap = 24;
+
+std::string name_for_player(const MainWindow& window, Control button) {
+  const std::string& tooltip = window.control(button).tooltip;
+  return tooltip.empty() ? notice(Notice::hint, globals.Langue) : tooltip;
+}
+
+}  // namespace
+
+CommandBar::CommandBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this)) {
+  title_->setObjectName("Label3");
+  title_->setTextFormat(Qt::PlainText);
+  QFont font = title_->font();
+  font.setPointSizeF(font.pointSizeF() * 1.2);
+  title_->setFont(font);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(title_);
+  rows->addLayout(make_buttons());
+}
+
+QLayout* CommandBar::make_buttons() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(4);
+  for (const ButtonLook& look : button_looks) {
+    if (look.starts_group) row->addSpacing(group_gap);
+    row->addWidget(make_button(look.control, look.name, look.icon));
+  }
+  row->addStretch();
+  return row;
+}
+
+QToolButton* CommandBar::make_button(Control control, const char* name, const char* icon) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(name);
+  button->setIcon(button_icon(icon));
+  button->setIconSize({icon_side, icon_side});
+  button->setFixedSize(button_side, button_side);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  QSizePolicy policy = button->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  button->setSizePolicy(policy);
+  connect(button, &QToolButton::clicked, this, [this, control] { emit clicked(control); });
+  buttons_.push_back({control, button});
+  return button;
+}
+
+void CommandBar::show_state(const MainWindow& window) {
+  title_->setText(QString::fromStdString(window.control(Control::Label3).caption).trimmed());
+  title_->setVisible(window.visible(Control::Label3));
+  for (const auto& [control, button] : buttons_) {
+    const QString name = QString::fromStdString(name_for_player(window, control));
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    button->setVisible(window.visible(control));
+  }
+}
+
+}  // namespace sdk

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The band above the grids: title and credit, and the row of buttons.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "ui/main_window.hpp"
+
+class QLabel;
+class QToolButton;
+
+namespace sdk {
+
+class CommandBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit CommandBar(QWidget* parent);
+
+  /// Shows texts and visibility as `window` has them. A hidden button keeps its place.
+  void show_state(const MainWindow& window);
+
+ signals:
+  void clicked(Control button);
+
+ private:
+  struct Button {
+    Control control;
+    QToolButton* widget;
+  };
+
+  QLayout* make_buttons();
+  QToolButton* make_button(Control control, const char* name, const char* icon);
+
+  QLabel* title_;
+  std::vector<Button> buttons_;
+};
+
+}  // namespace sdk

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// A grid of the core as Qt's item views and screen readers see it.
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "grid/display_grid.hpp"
+
+namespace sdk {
+
+class GridModel : public QAbstractTableModel {
+ public:
+  /// `grid` must outlive the model.
+  GridModel(const DisplayGrid& grid, QObject* parent);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  /// The text to show, the two colours, and the accessible text: row, column and content.
+  QVariant data(const QModelIndex& index, int role) const override;
+
+  /// Tells the views that any cell may have changed.
+  void announce_change();
+
+ private:
+  const DisplayGrid& grid_;
+};
+
+}  // namespace sdk

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/grid_view.hpp"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <optional>
+
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/key_codes.hpp"
+
+namespace sdk {
+
+namespace {
+
+void set_up_header(QHeaderView& header) {
+  header.hide();
+  header.setMinimumSectionSize(cell_side);
+  header.setDefaultSectionSize(cell_side);
+  header.setSectionResizeMode(QHeaderView::Fixed);
+}
+
+bool is_tab(int qt_key) { return qt_key == Qt::Key_Tab || qt_key == Qt::Key_Backtab; }
+
+/// A cell by row and column.
+struct Corner {
+  int row, column;
+};
+
+/// The corner of `range` across from a corner of it.
+Corner across(const CellRange& range, int row, int column) {
+  return {row == range.first_row ? range.last_row : range.first_row,
+          column == range.first_column ? range.last_column : range.first_column};
+}
+
+CellRange bounds_of(const QItemSelection& selection) {
+  CellRange bounds{DisplayGrid::size, DisplayGrid::size, -1, -1};
+  for (const QItemSelectionRange& range : selection)
+    bounds = {std::min(bounds.first_row, range.top()), std::min(bounds.first_column, range.left()),
+              std::max(bounds.last_row, range.bottom()),
+              std::max(bounds.last_column, range.right())};
+  return bounds;
+}
+
+}  // namespace
+
+GridView::GridView(DisplayGrid& grid, GridLook look, QWidget* parent)
+    : QTableView(parent),
+      grid_(grid),
+      model_(grid, nullptr),
+      update_(*this, [this] { follow_grid(); }) {
+  set_up_table();
+  setModel(&model_);
+  setItemDelegate(new CellDelegate(grid, look, this));
+  grid_.set_listener(this);
+  update_.ask();
+}
+
+GridView::~GridView() { grid_.set_listener(nullptr); }
+
+void GridView::set_up_table() {
+  set_up_header(*horizontalHeader());
+  set_up_header(*verticalHeader());
+  setShowGrid(false);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setAutoScroll(false);
+  setEditTriggers(NoEditTriggers);
+  setSelectionMode(ContiguousSelection);
+  setTabKeyNavigation(false);
+}
+
+void GridView::cell_changed(int, int) { update_.ask(); }
+
+void GridView::selection_changed() { update_.ask(); }
+
+void GridView::appearance_changed() { update_.ask(); }
+
+void GridView::refresh() {
+  update_.make_now();
+  viewport()->repaint();
+}
+
+void GridView::follow_grid() {
+  set_tab_stop();
+  setUpdatesEnabled(grid_.visible());
+  select_as_grid();
+  model_.announce_change();
+  viewport()->update();
+}
+
+void GridView::select_as_grid() {
+  const QScopedValueRollback following(following_grid_, true);
+  const CellRange range = grid_.selection();
+  selectionModel()->setCurrentIndex(model_.index(grid_.current_row(), grid_.current_column()),
+                                    QItemSelectionModel::NoUpdate);
+  selectionModel()->select(QItemSelection(model_.index(range.first_row, range.first_column),
+                                          model_.index(range.last_row, range.last_column)),
+                           QItemSelectionModel::ClearAndSelect);
+}
+
+void GridView::set_tab_stop() {
+  const bool tab_stop = focusPolicy() & Qt::TabFocus;
+  if (tab_stop != grid_.tab_stop()) setFocusPolicy(Qt::FocusPolicy(focusPolicy() ^ Qt::TabFocus));
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  follow_view();
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  follow_view();
+}
+
+void GridView::follow_view() {
+  const QModelIndex current = currentIndex();
+  if (following_grid_ || !current.isValid()) return;
+  if (!selectionModel()->isSelected(current))
+    return grid_.make_current(current.row(), current.column());
+  const Corner other =
+      across(bounds_of(selectionModel()->selection()), current.row(), current.column());
+  grid_.select(current.row(), current.column(), other.row, other.column);
+}
+
+void GridView::go_to(const QModelIndex& index, bool extend) {
+  if (!index.isValid()) return;
+  const Corner other = extend
+                           ? across(grid_.selection(), grid_.current_row(), grid_.current_column())
+                           : Corner{index.row(), index.column()};
+  grid_.select(index.row(), index.column(), other.row, other.column);
+  update_.make_now();
+}
+
+std::optional<GridView::CursorAction> GridView::movement_of(int qt_key) {
+  switch (qt_key) {
+    case Qt::Key_Up:
+      return MoveUp;
+    case Qt::Key_Down:
+      return MoveDown;
+    case Qt::Key_Left:
+      return MoveLeft;
+    case Qt::Key_Right:
+      return MoveRight;
+    case Qt::Key_Home:
+      return MoveHome;
+    case Qt::Key_End:
+      return MoveEnd;
+    case Qt::Key_PageUp:
+      return MovePageUp;
+    case Qt::Key_PageDown:
+      return MovePageDown;
+    default:
+      return std::nullopt;
+  }
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  update_.make_now();
+  if (is_tab(event->key())) return event->ignore();
+  const bool extend = event->modifiers().testFlag(Qt::ShiftModifier);
+  if (const auto action = movement_of(event->key()))
+    return go_to(moveCursor(*action, event->modifiers()), extend);
+  const KeyCode key = key_code(*event);
+  emit key_pressed(key.code, key.ctrl);
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  update_.make_now();
+  go_to(indexAt(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
+  emit button_pressed_or_released();
+}
+
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  const QRect cells = viewport()->rect();
+  go_to(indexAt({std::clamp(event->pos().x(), cells.left(), cells.right()),
+                 std::clamp(event->pos().y(), cells.top(), cells.bottom())}),
+        true);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit button_pressed_or_released();
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  viewport()->update();
+}
+
+}  // namespace sdk

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/icons.hpp"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QSvgRenderer>
+
+// Has to stand outside every namespace.
+static void add_icons_to_the_program() { Q_INIT_RESOURCE(icons); }
+
+namespace sdk {
+
+namespace {
+
+/// Uses the drawing as a stencil, so that one set of icons serves light and dark themes.
+class StencilIcon : public QIconEngine {
+ public:
+  explicit StencilIcon(const QString& file) : file_(file) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    painter->drawPixmap(rect, drawn(rect.size() * painter->device()->devicePixelRatio(), mode));
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    return drawn(size, mode);
+  }
+
+  QIconEngine* clone() const override { return new StencilIcon(*this); }
+
+ private:
+  QPixmap drawn(const QSize& size, QIcon::Mode mode) const {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    QSvgRenderer(file_).render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), colour(mode));
+    return pixmap;
+  }
+
+  static QColor colour(QIcon::Mode mode) {
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    return QGuiApplication::palette().color(group, QPalette::ButtonText);
+  }
+
+  QString file_;
+};
+
+}  // namespace
+
+QIcon button_icon(const char* name) {
+  add_icons_to_the_program();
+  return QIcon(new StencilIcon(QString(":/icons/%1.svg").arg(name)));
+}
+
+}  // namespace sdk

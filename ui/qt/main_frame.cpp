@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/main_frame.hpp"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include "ui/messages.hpp"
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/key_codes.hpp"
+#include "ui/qt/pixels.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr int band_margin = 12;
+
+QFrame* make_frame(const char* name, QWidget* parent) {
+  auto* frame = new QFrame(parent);
+  frame->setObjectName(name);
+  frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+  frame->setLineWidth(2);
+  return frame;
+}
+
+GridView* make_grid(const char* name, DisplayGrid& grid, GridLook look, QWidget* parent) {
+  auto* view = new GridView(grid, look, parent);
+  view->setObjectName(name);
+  return view;
+}
+
+}  // namespace
+
+// The order of the children is the order of Tab.
+MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
+    : window_(window),
+      guard_(guard),
+      commands_(new CommandBar(this)),
+      rect_(make_frame("rect", this)),
+      msf_(make_grid("MSF", window.MSF, {puzzle_font_size, true}, this)),
+      rect2_(make_frame("rect2", this)),
+      msr_(make_grid("MSR", window.MSR, {candidates_font_size, false}, this)),
+      options_(new OptionBar(this)),
+      lines_(new LineOverlay(window, this)),
+      update_(*this, [this] { show_state(); }) {
+  setObjectName("sudoku");
+  connect_bars();
+  connect_grids();
+  watch_application();
+  msf_->setFocus();
+  window_.set_listener(this);
+  update_.ask();
+}
+
+MainFrame::~MainFrame() { window_.set_listener(nullptr); }
+
+void MainFrame::connect_bars() {
+  connect(commands_, &CommandBar::clicked, this,
+          [this](Control button) { guard_.run([&] { window_.click(button); }); });
+  connect(options_, &OptionBar::ticked, this,
+          [this](Control box, bool on) { guard_.run([&] { window_.check(box, on); }); });
+  connect(options_, &OptionBar::level_chosen, this,
+          [this](int item) { guard_.run([&] { window_.choose_level(item); }); });
+}
+
+void MainFrame::connect_grids() {
+  msr_->setFocusPolicy(Qt::TabFocus);
+  connect(msf_, &GridView::key_pressed, this,
+          [this](int code, bool ctrl) { guard_.run([&] { window_.key_down(code, ctrl); }); });
+  for (const GridView* grid : {msf_, msr_})
+    connect(grid, &GridView::button_pressed_or_released, this,
+            [this] { guard_.run([&] { window_.redraw_lines(); }); });
+}
+
+void MainFrame::watch_application() {
+  qApp->installEventFilter(this);
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { session_ends_ = true; });
+}
+
+/// Sees every event of the program before its receiver does.
+bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
+  const bool is_key = event->type() == QEvent::KeyPress;
+  if (!is_key && event->type() != QEvent::MouseButtonPress) return false;
+  session_ends_ = false;  // the player goes on, so the end of the session was called off
+  const auto* widget = qobject_cast<QWidget*>(watched);
+  if (!is_key || !widget || widget->window() != this) return false;
+  const int code = key_code(*static_cast<QKeyEvent*>(event)).code;
+  if (code != key::f1 && code != key::f2 && code != key::escape) return false;
+  guard_.run([&] { window_.preview_key(code); });
+  return code != key::escape;
+}
+
+void MainFrame::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  const CloseMode mode = session_ends_ ? CloseMode::session_end : CloseMode::window_command;
+  guard_.run([&] {
+    if (window_.close(mode)) throw ProgramEnd{0};
+  });
+}
+
+void MainFrame::resizeEvent(QResizeEvent*) {
+  guard_.run([&] { window_.redraw_lines(); });
+}
+
+void MainFrame::controls_changed() { update_.ask(); }
+
+void MainFrame::layout_changed() { update_.ask(); }
+
+void MainFrame::lines_drawn() { lines_->update(); }
+
+void MainFrame::focus_changed() {
+  if (window_.focus() == Control::MSF) msf_->setFocus();
+}
+
+void MainFrame::refresh() {
+  update_.make_now();
+  repaint();
+}
+
+void MainFrame::show_state() {
+  setWindowTitle(QString::fromStdString(window_.title()));
+  commands_->show_state(window_);
+  options_->show_state(window_);
+  show_grid_names();
+  rect_->setVisible(window_.visible(Control::rect));
+  rect2_->setVisible(window_.visible(Control::rect2));
+  // A grid that is hidden without its frame is only being rewritten.
+  msf_->setVisible(window_.visible(Control::rect));
+  msr_->setVisible(window_.visible(Control::rect2));
+  place_widgets();
+}
+
+void MainFrame::show_grid_names() {
+  msf_->setAccessibleName(QString::fromStdString(notice(Notice::puzzle, globals.Langue)));
+  msr_->setAccessibleName(QString::fromStdString(notice(Notice::candidates, globals.Langue)));
+}
+
+void MainFrame::place_widgets() {
+  const Layout& layout = window_.layout();
+  const QRect inside = pixels(layout.window), msf_frame = pixels(layout.rect);
+  // As wide as the narrow window, so that nothing moves when the candidates are shown.
+  const int band_width = pixels(sdk::layout(false).window).width() - 2 * band_margin;
+  commands_->setGeometry(band_margin, band_margin, band_width, msf_frame.top() - 2 * band_margin);
+  options_->setGeometry(band_margin, msf_frame.bottom() + 1 + band_margin, band_width,
+                        inside.bottom() - msf_frame.bottom() - 2 * band_margin);
+  rect_->setGeometry(msf_frame);
+  rect2_->setGeometry(pixels(layout.rect2));
+  msf_->setGeometry(pixels(layout.MSF));
+  msr_->setGeometry(pixels(layout.MSR));
+  lines_->setGeometry(inside);
+  setFixedSize(inside.size());
+  keep_on_screen();
+}
+
+void MainFrame::keep_on_screen() {
+  if (!isVisible()) return;
+  const int beyond = frameGeometry().right() - screen()->availableGeometry().right();
+  if (beyond > 0) move(pos() - QPoint(beyond, 0));
+}
+
+void MainFrame::centre_on_screen() {
+  update_.make_now();
+  move(screen()->availableGeometry().center() - rect().center());
+}
+
+}  // namespace sdk

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The game's window on screen: it shows what MainWindow holds and hands it the player's events.
+#pragma once
+
+#include <QFrame>
+#include <QWidget>
+
+#include "ui/main_window.hpp"
+#include "ui/qt/command_bar.hpp"
+#include "ui/qt/deferred_call.hpp"
+#include "ui/qt/grid_view.hpp"
+#include "ui/qt/line_overlay.hpp"
+#include "ui/qt/option_bar.hpp"
+#include "ui/qt/program_guard.hpp"
+
+namespace sdk {
+
+class MainFrame : public QWidget, private WindowListener {
+ public:
+  /// Becomes the listener of `window`; `window` and `guard` must outlive the frame.
+  MainFrame(MainWindow& window, ProgramGuard& guard);
+  ~MainFrame() override;
+
+  /// To be called once, before the window is shown: places it in the middle of the screen.
+  void centre_on_screen();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void controls_changed() override;
+  void layout_changed() override;
+  void lines_drawn() override;
+  void focus_changed() override;
+  void refresh() override;
+
+  void connect_bars();
+  void connect_grids();
+  void watch_application();
+
+  void show_state();
+  void show_grid_names();
+  void place_widgets();
+  void keep_on_screen();
+
+  MainWindow& window_;
+  ProgramGuard& guard_;
+  CommandBar* commands_;
+  QFrame* rect_;
+  GridView* msf_;
+  QFrame* rect2_;
+  GridView* msr_;
+  OptionBar* options_;
+  LineOverlay* lines_;
+  DeferredCall update_;
+  bool session_ends_ = false;
+};
+
+}  // namespace sdk

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/option_bar.hpp"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "ui/messages.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr std::size_t hint_message = 21;
+
+QStringList names_of(const std::vector<LevelItem>& levels) {
+  QStringList names;
+  for (const LevelItem& level : levels) names << QString::fromStdString(level.name);
+  return names;
+}
+
+QStringList items_of(const QComboBox& list) {
+  QStringList items;
+  for (int i = 0; i < list.count(); ++i) items << list.itemText(i);
+  return items;
+}
+
+/// The placeholder is the level that holds, so it reads like a chosen one.
+void set_placeholder_colour(QComboBox& list) {
+  QPalette palette = list.palette();
+  palette.setColor(QPalette::PlaceholderText, palette.color(QPalette::ButtonText));
+  list.setPalette(palette);
+}
+
+QLabel* make_label(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+}  // namespace
+
+OptionBar::OptionBar(QWidget* parent)
+    : QWidget(parent),
+      levels_(new QComboBox(this)),
+      count_(make_label("Label", this)),
+      hint_(make_label("Astuce", this)) {
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addLayout(make_boxes());
+  rows->addLayout(make_level_row());
+  rows->addWidget(hint_);
+}
+
+QLayout* OptionBar::make_boxes() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(20);
+  row->addWidget(make_box(Control::Check3, "Check3"));
+  row->addWidget(make_box(Control::Check1, "Check1"));
+  row->addWidget(make_box(Control::Check2, "Check2"));
+  row->addStretch();
+  return row;
+}
+
+QCheckBox* OptionBar::make_box(Control control, const char* name) {
+  auto* box = new QCheckBox(this);
+  box->setObjectName(name);
+  box->setFocusPolicy(Qt::TabFocus);
+  connect(box, &QCheckBox::toggled, this, [this, control](bool on) { emit ticked(control, on); });
+  boxes_.push_back({control, box});
+  return box;
+}
+
+QLayout* OptionBar::make_level_row() {
+  levels_->setObjectName("Niveau");
+  levels_->setFocusPolicy(Qt::TabFocus);
+  levels_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  set_placeholder_colour(*levels_);
+  connect(levels_, &QComboBox::activated, this, &OptionBar::level_chosen);
+  auto* row = new QHBoxLayout;
+  row->addWidget(levels_);
+  row->addWidget(count_);
+  row->addStretch();
+  return row;
+}
+
+void OptionBar::show_state(const MainWindow& window) {
+  for (const Box& box : boxes_) show_box(window, box);
+  show_levels(window);
+  count_->setText(QString::fromStdString(window.control(Control::Label).caption));
+  count_->setVisible(window.visible(Control::Label));
+  hint_->setText(QString::fromStdString(globals.Messages[hint_message]));
+}
+
+void OptionBar::show_box(const MainWindow& window, const Box& box) {
+  const ControlState& state = window.control(box.control);
+  const QSignalBlocker silent(box.widget);
+  box.widget->setText(QString::fromStdString(state.caption));
+  box.widget->setToolTip(QString::fromStdString(state.tooltip));
+  box.widget->setAccessibleName(QString::fromStdString(state.caption));
+  box.widget->setChecked(state.checked);
+  box.widget->setVisible(state.visible);
+}
+
+void OptionBar::show_levels(const MainWindow& window) {
+  const QSignalBlocker silent(levels_);
+  if (const QStringList names = names_of(window.levels()); names != items_of(*levels_)) {
+    levels_->clear();
+    levels_->addItems(names);
+  }
+  levels_->setCurrentIndex(window.chosen_level().value_or(-1));
+  levels_->setPlaceholderText(QString::fromStdString(window.level_text()));
+  levels_->setAccessibleName(QString::fromStdString(notice(Notice::level, globals.Langue)));
+  levels_->setVisible(window.visible(Control::Niveau));
+}
+
+}  // namespace sdk

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The band below the grids: options, level list, count and the language hint.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+#include "ui/main_window.hpp"
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+
+namespace sdk {
+
+class OptionBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit OptionBar(QWidget* parent);
+
+  /// Shows texts, ticks, levels and visibility as `window` has them.
+  void show_state(const MainWindow& window);
+
+ signals:
+  void ticked(Control box, bool on);
+  void level_chosen(int item);
+
+ private:
+  struct Box {
+    Control control;
+    QCheckBox* widget;
+  };
+
+  QLayout* make_boxes();
+  QCheckBox* make_box(Control control, const char* name);
+  QLayout* make_level_row();
+  void show_box(const MainWindow& window, const Box& box);
+  void show_levels(const MainWindow& window);
+  void show_label(const MainWindow& window);
+
+  std::vector<Box> boxes_;
+  QComboBox* levels_;
+  QLabel* count_;
+  QLabel* hint_;
+};
+
+}  // namespace sdk

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// A page of the core on paper.
+#pragma once
+
+#include "grid/display_grid.hpp"
+#include "grid/drawing.hpp"
+
+class QPagedPaintDevice;
+
+namespace sdk {
+
+/// Paints `page` on the printable area of the device's current page, with `puzzle` as its picture.
+/// False when the device refuses to be painted on.
+bool paint_page(QPagedPaintDevice& device, const Page& page, const DisplayGrid& puzzle);
+
+}  // namespace sdk

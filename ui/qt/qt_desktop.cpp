@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/qt_desktop.hpp"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <chrono>
+#include <iostream>
+
+#include "grid/errors.hpp"
+#include "ui/qt/printing_service.hpp"
+
+namespace sdk {
+
+namespace {
+
+QMessageBox::Icon box_icon(Icon icon) {
+  switch (icon) {
+    case Icon::exclamation:
+      return QMessageBox::Warning;
+    case Icon::critical:
+      return QMessageBox::Critical;
+    case Icon::question:
+      return QMessageBox::Question;
+    case Icon::none:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+/// "description|pattern|" as Qt writes it. Qt's dialog shows the description alone.
+QString name_filter(const std::string& filter) {
+  const QStringList parts = QString::fromStdString(filter).split('|');
+  return parts.value(0) + " (" + parts.value(1) + ")";
+}
+
+}  // namespace
+
+Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
+                              const std::string& title) {
+  language_.follow();
+  const bool asks = buttons == Buttons::yes_no;
+  QMessageBox box(box_icon(icon), QString::fromStdString(title), QString::fromStdString(text),
+                  asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window_);
+  box.setTextFormat(Qt::PlainText);
+  if (asks) box.setEscapeButton(QMessageBox::No);
+  const int pressed = box.exec();
+  guard_.rethrow();
+  if (!asks) return Answer::ok;
+  return pressed == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+std::string QtDesktop::open_dialog(const std::string& filter) {
+  language_.follow();
+  QFileDialog dialog(window_);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return chosen_file(dialog, filter);
+}
+
+std::string QtDesktop::save_dialog(const std::string& filter) {
+  language_.follow();
+  QFileDialog dialog(window_);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  return chosen_file(dialog, filter);
+}
+
+std::string QtDesktop::chosen_file(QFileDialog& dialog, const std::string& filter) {
+  // The system's own dialogs speak the system's language.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setNameFilter(name_filter(filter));
+  const bool chosen = dialog.exec() == QDialog::Accepted;
+  guard_.rethrow();
+  return chosen ? dialog.selectedFiles().value(0).toStdString() : std::string();
+}
+
+void QtDesktop::set_pointer(Pointer shape) {
+  if (!window_) return;
+  if (shape == Pointer::hourglass)
+    window_->setCursor(Qt::WaitCursor);
+  else
+    window_->unsetCursor();
+}
+
+void QtDesktop::let_events_run() {
+  if (!pump_.is_due()) return;
+  QCoreApplication::processEvents();
+  guard_.rethrow();
+}
+
+void QtDesktop::set_clipboard(const std::string& text) {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+PageSize QtDesktop::printer_page() { return default_printer_page(); }
+
+void QtDesktop::print(const Page& page) { print_on_default_printer(page); }
+
+std::uint32_t QtDesktop::random_seed() {
+  const auto ticks = std::chrono::system_clock::now().time_since_epoch().count();
+  return static_cast<std::uint32_t>(ticks ^ (ticks >> 32));
+}
+
+std::filesystem::path QtDesktop::data_folder() {
+  const std::filesystem::path folder =
+      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) throw RuntimeError(folder.string(), error.message());
+  return folder;
+}
+
+void QtDesktop::report_error(const std::string& line) { std::cerr << line << std::endl; }
+
+}  // namespace sdk
