@@ -6,6 +6,9 @@
 #include <algorithm>
 
 #include "files/puzzle_file.hpp"
+#include "pas_a_pas/driver.hpp"
+#include "pas_a_pas/helpers.hpp"
+#include "pas_a_pas/view.hpp"
 #include "puzzles/library.hpp"
 #include "ui/main_window.hpp"
 
@@ -50,9 +53,9 @@ void MainWindow::show_candidates(bool shown) {
 }
 
 void MainWindow::choose_level(std::optional<int> item) {
-  chosen_level_ = item;
-  globals.NiveauCourant =
-      item ? levels_.at(static_cast<std::size_t>(*item)).level : std::int16_t{0};
+  const bool exists = item && *item >= 0 && *item < static_cast<int>(levels_.size());
+  chosen_level_ = exists ? item : std::nullopt;
+  globals.NiveauCourant = exists ? levels_[static_cast<std::size_t>(*item)].level : std::int16_t{0};
   globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
   if (listener_) listener_->controls_changed();
 }
@@ -79,6 +82,7 @@ void MainWindow::new_puzzle() {
     active();
   }
   MSF.refresh();
+  init_candidats();
   desktop().set_pointer(Pointer::arrow);
   MajCandidats();
   trace_ligne();
@@ -129,12 +133,20 @@ void MainWindow::load() {}
 
 void MainWindow::solve() { Resoudre(); }
 
-void MainWindow::hint() { globals.ModePasAPas = true; }
+void MainWindow::hint() {
+  globals.ModePasAPas = true;
+  suggestion();
+}
 
 void MainWindow::about() {}
 
 void MainWindow::help() {}
 
-void MainWindow::MajCandidats() { MSR.refresh(); }
+void MainWindow::MajCandidats() {
+  init_candidats();
+  maj_candidats();
+  affiche_candidats();
+  MSR.refresh();
+}
 
 }  // namespace sdk

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The hint: one run after another over the candidates, until the player says No or a run ends.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "grid/types.hpp"
+#include "pas_a_pas/cells.hpp"
+
+namespace sdk {
+
+/// Runs the solver on the grid that `MSF` shows, up to one of its ends: the grid is complete
+/// (`Messages`[14]), a cell is dead (marked, no message), a single is offered, or no technique
+/// changes anything (`Messages`[32]). Called while it is at work, as an accepted offer does, it
+/// only asks for one more run when the present one is over; so no number of placements deepens the
+/// stack. The result has no meaning.
+std::int16_t suggestion();
+
+/// Fills `Candidats` and `GrilleDepart` from `MSF` and empties `MSR`. A text that is not a number
+/// is an empty cell. No candidate is removed yet.
+void init_candidats();
+
+/// Whether no cell is empty. If so, redraws the candidates and sets `GrilleFinie`.
+Bool16 grille_finie();
+
+/// The first empty cell, row by row, whose stored count of candidates is 0.
+std::optional<Cell> dead_cell();
+
+/// Whether there is a dead cell. If so, marks it and redraws the candidates.
+Bool16 case_morte();
+
+}  // namespace sdk

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "pas_a_pas/view.hpp"
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "grid/window.hpp"
+#include "pas_a_pas/helpers.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr int value_size = 20, candidates_size = 10;
+
+std::string text_of(NineSet digits) {
+  std::string text;
+  for (int digit = 1; digit <= 9; ++digit) {
+    if (digit == 4 || digit == 7) text += '\r';
+    text += digits.contains(digit) ? " " + std::to_string(digit) + " " : " . ";
+  }
+  return text;
+}
+
+/// The texts of all sets of candidates, by NineSet::index.
+const std::array<std::string, 512>& candidate_texts() {
+  static const auto texts = [] {
+    std::array<std::string, 512> all;
+    for (unsigned index = 0; index < all.size(); ++index) {
+      NineSet digits;
+      for (int digit = 1; digit <= 9; ++digit)
+        if (index >> (digit - 1) & 1) digits.insert(digit);
+      all[digits.index()] = text_of(digits);
+    }
+    return all;
+  }();
+  return texts;
+}
+
+/// Writes the current cell; a text that stands there already is left alone, as most do from one
+/// round to the next.
+void write(const std::string& text) {
+  DisplayGrid& grid = sudoku().MSR;
+  if (grid.current().text != text) grid.set_text(text);
+}
+
+void show_cell(Cell cell) {
+  sudoku().MSR.make_current(cell.row - 1, cell.column - 1);
+  const int value = solver.Candidats.value(cell);
+  if (value == 0) return write(candidate_texts()[solver.Candidats.digits(cell).index()]);
+  write(std::to_string(value));
+  marque_case(cell.row, cell.column, mark::value);
+}
+
+}  // namespace
+
+void affiche_candidats() {
+  if (globals.ModePasAPas) marque_candidats();
+  std::optional<HiddenWhileWorking> hidden;
+  if (globals.AfficheCandidats) hidden.emplace(sudoku().MSR);
+  for (int cell = 1; cell <= 81; ++cell) show_cell(cell_at(cell));
+  solver.SuggestionTrouvee = false;
+}
+
+void efface_candidats() {
+  for (int row = 1; row <= 9; ++row)
+    for (int column = 1; column <= 9; ++column) {
+      sudoku().MSR.set_text(row - 1, column - 1, " ");
+      marque_case(row, column, mark::none);
+    }
+}
+
+void marque_candidats() {
+  DisplayGrid& grid = sudoku().MSR;
+  for (int row = 1; row <= 9; ++row)
+    for (int column = 1; column <= 9; ++column) {
+      if (solver.Candidats.count({row, column}) == 0) continue;
+      grid.make_current(row - 1, column - 1);
+      grid.set_text_colour(colour::black);
+    }
+}
+
+namespace {
+
+enum class FontSize { kept, plain, by_text };
+
+struct Look {
+  Colour back, text;
+  FontSize size;
+};
+
+constexpr std::optional<Look> look_of(int mode) {
+  switch (mode) {
+    case mark::none:
+      return Look{colour::white, colour::black, FontSize::plain};
+    case mark::removed:
+      return Look{0xFF00FF, colour::black, FontSize::kept};
+    case mark::support:
+      return Look{12648384, colour::green, FontSize::by_text};
+    case mark::value:
+      return Look{14737632, colour::black, FontSize::by_text};
+    case mark::second:
+      return Look{0x00FFFF, colour::black, FontSize::kept};
+    default:
+      return std::nullopt;
+  }
+}
+
+void set_size(DisplayGrid& grid, FontSize size) {
+  if (size == FontSize::plain) grid.set_font_size(0);
+  if (size != FontSize::by_text) return;
+  const std::string& text = grid.current().text;
+  const bool is_digit = text.size() == 1 && text != " ";
+  grid.set_font_size(is_digit ? value_size : candidates_size);
+}
+
+}  // namespace
+
+void marque_case(int row, int column, int mode) {
+  const std::optional<Look> look = look_of(mode);
+  if (!look) return;
+  DisplayGrid& grid = sudoku().MSR;
+  grid.make_current(row - 1, column - 1);
+  grid.set_back_colour(look->back);
+  grid.set_text_colour(look->text);
+  set_size(grid, look->size);
+  grid.set_mark(mode);
+}
+
+void trace_candidat(int /*row*/, int /*column*/, int /*digit*/, Colour /*colour*/) {}
+
+void show(Cell cell, int mode, NineSet digits, Colour colour) {
+  if (!globals.ModePasAPas) return;
+  marque_case(cell.row, cell.column, mode);
+  for (const int digit : digits& solver.Candidats.digits(cell))
+    trace_candidat(cell.row, cell.column, digit, colour);
+}
+
+void support(Cell cell, Role role, NineSet digits, int mode) {
+  solver.step.cells_as(role).insert(cell);
+  show(cell, mode, digits, hook::support);
+}
+
+void eliminate_shown(Cell cell, NineSet digits) {
+  show(cell, mark::removed, digits, hook::removed);
+  eliminate(cell, digits);
+}
+
+}  // namespace sdk
