@@ -231,8 +231,8 @@ TEST(Script, a_nested_search_counts_its_own_steps) {
 TEST(Script, a_step_goes_on_after_the_search_that_it_started) {
   ScriptRun run;
   run.play(empty_grid);
-  const std::string printed = run.play(
-      "at 2 click Bouton_GO\nat 2 show NumCase\nat 3 show focus\nclick Bouton_GO");
+  const std::string printed =
+      run.play("at 2 click Bouton_GO\nat 2 show NumCase\nat 3 show focus\nclick Bouton_GO");
   EXPECT_NE(printed.find("terminée!!\" ok -> ok\n82\nMSF\nbox"), printed.npos) << printed;
 }
 

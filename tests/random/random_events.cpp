@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Random events, also during searches and during searches inside these; the whole state is checked
+// after every event. Escape comes at the 1,000th step of every search.
+
+#include <algorithm>
+#include <deque>
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include "tests/random/event_source.hpp"
+#include "tests/transcripts/scratch.hpp"
+#include "tools/script/script.hpp"
+#include "ui/state_check.hpp"
+
+namespace sdk {
+namespace {
+
+constexpr long escape_step = 1000;
+constexpr std::size_t commands_kept = 60;
+
+struct Counts {
+  long events = 0, programs = 0, searches = 0, inner_searches = 0, escapes = 0;
+};
+
+/// One program from its start to its end, in folders of its own.
+class Program {
+ public:
+  explicit Program(Counts& counts) : counts_(counts) {
+    ++counts_.programs;
+    script_.schedule().add_to_every_search(1, [this] { count_search(); });
+    script_.schedule().add_to_every_search(escape_step, [this] { escape(); });
+  }
+
+  void run(const std::string& command) {
+    out_.str("");
+    errors_.str("");
+    script_.run(command);
+  }
+  bool running() const { return script_.running(); }
+  std::string fault() { return running() ? state_fault(script_.window()) : ""; }
+
+ private:
+  void count_search() {
+    ++counts_.searches;
+    if (script_.window().searches_running > 1) ++counts_.inner_searches;
+  }
+  void escape() {
+    ++counts_.escapes;
+    script_.window().preview_key(key::escape);
+  }
+
+  Counts& counts_;
+  Scratch scratch_;
+  std::ostringstream out_, errors_;
+  Script script_{out_, errors_};
+};
+
+/// A run of one seed.
+class RandomRun {
+ public:
+  RandomRun(std::uint32_t seed, bool echo) : source_(seed), echo_(echo) {}
+
+  /// The first fault, or nothing.
+  std::string play(long events) {
+    while (counts_.events < events) {
+      if (!program_ || !program_->running()) restart();
+      do_command(source_.next());
+      ++counts_.events;
+      const std::string fault = program_->fault();
+      if (!fault.empty()) return fault;
+    }
+    return "";
+  }
+
+  const Counts& counts() const { return counts_; }
+  /// The newest last.
+  const std::deque<std::string>& last_commands() const { return last_commands_; }
+
+ private:
+  void restart() {
+    program_.reset();
+    program_ = std::make_unique<Program>(counts_);
+    last_commands_.clear();
+    do_command(source_.seed());
+    do_command("show visible");
+  }
+
+  void do_command(const std::string& command) {
+    if (echo_) std::cout << command << std::endl;
+    last_commands_.push_back(command);
+    if (last_commands_.size() > commands_kept) last_commands_.pop_front();
+    program_->run(command);
+  }
+
+  EventSource source_;
+  bool echo_;
+  Counts counts_;
+  std::unique_ptr<Program> program_;
+  std::deque<std::string> last_commands_;
+};
+
+void print(const Counts& c) {
+  std::cout << c.events << " events in " << c.programs << " programs, " << c.searches
+            << " searches, " << c.inner_searches << " of them inside others, " << c.escapes
+            << " stopped at step " << escape_step << '\n';
+}
+
+int play(std::uint32_t seed, long events, bool echo) {
+  std::cout << "seed " << seed << std::endl;
+  RandomRun run(seed, echo);
+  const std::string fault = run.play(events);
+  print(run.counts());
+  if (fault.empty()) return 0;
+  std::cout << "fault after event " << run.counts().events << ": " << fault
+            << "\nreplay: random_events " << seed << ' ' << run.counts().events
+            << "\nthe last commands:\n";
+  for (const std::string& command : run.last_commands()) std::cout << "  " << command << '\n';
+  return 1;
+}
+
+}  // namespace
+}  // namespace sdk
+
+/// random_events SEED EVENTS [--echo]: `--echo` prints every command before it runs, for a run that
+/// does not come back.
+int main(int argc, char** argv) {
+  if (argc < 3 || argc > 4) {
+    std::cerr << "usage: random_events SEED EVENTS [--echo]\n";
+    return 2;
+  }
+  const bool echo = argc == 4 && std::string(argv[3]) == "--echo";
+  return sdk::play(static_cast<std::uint32_t>(std::stoul(argv[1])), std::stol(argv[2]), echo);
+}
