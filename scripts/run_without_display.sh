@@ -49,7 +49,7 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 
 echo "Starting the game on a virtual display."
-Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp \
+Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp -noreset \
   3>"$work/number" 2>"$work/messages" &
 server=$!
 if ! wait_for 20 "$server" test -s "$work/number"; then
