@@ -3,6 +3,7 @@
 
 #include "pas_a_pas/driver.hpp"
 
+#include <optional>
 #include <utility>
 
 #include "grid/window.hpp"
@@ -33,6 +34,9 @@ Bool16 grille_finie() {
   return true;
 }
 
+namespace {
+
+/// The first empty cell, row by row, that counts no candidate.
 std::optional<Cell> dead_cell() {
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
@@ -41,13 +45,18 @@ std::optional<Cell> dead_cell() {
   return std::nullopt;
 }
 
+}  // namespace
+
 Bool16 case_morte() {
   const std::optional<Cell> dead = dead_cell();
-  if (dead && !solver.SansMarqueMorte) {
+  if (!dead) return false;
+  solver.step = {};
+  solver.step.cells_as(Role::pattern).insert(*dead);
+  if (!solver.SansMarqueMorte) {
     marque_case(dead->row, dead->column, mark::removed);
     affiche_candidats();
   }
-  return dead.has_value();
+  return true;
 }
 
 namespace {

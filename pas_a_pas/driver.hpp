@@ -5,10 +5,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "grid/types.hpp"
-#include "pas_a_pas/cells.hpp"
 
 namespace sdk {
 
@@ -26,10 +24,7 @@ void init_candidats();
 /// Whether no cell is empty. If so, redraws the candidates and sets `GrilleFinie`.
 Bool16 grille_finie();
 
-/// The first empty cell, row by row, whose stored count of candidates is 0.
-std::optional<Cell> dead_cell();
-
-/// Whether there is a dead cell. If so, marks it and redraws the candidates.
+/// Whether an empty cell has no candidate. If so, marks the first one and redraws the candidates.
 Bool16 case_morte();
 
 }  // namespace sdk

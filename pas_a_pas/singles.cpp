@@ -28,7 +28,15 @@ void accept(Cell cell, int digit) {
   suggestion();
 }
 
+/// The unit, where one matters, has been entered before.
+void describe(Single kind, Cell cell, int digit) {
+  solver.step.variant = kind == Single::naked ? 1 : 2;
+  solver.step.digits = {digit};
+  solver.step.cells_as(Role::pattern).insert(cell);
+}
+
 void offer(Single kind, Cell cell, int digit) {
+  describe(kind, cell, digit);
   marque_case(cell.row, cell.column, mark::support);
   sudoku().trace_ligne();
   if (solver.observer) solver.observer->offered(kind, cell, digit);
@@ -64,6 +72,7 @@ Bool16 singleton_nu() {
   for (int row = 1; row <= 9; ++row)
     for (int column = 1; column <= 9; ++column) {
       if (solver.Candidats.count({row, column}) != 1) continue;
+      solver.step = {};
       place_singleton_nu(row, column, nieme_candidat(row, column, 1));
       return true;
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// What a technique found and did, left behind for whoever wants to tell the player.
+/// What the solver found and did last, left behind for whoever wants to tell the player.
 #pragma once
 
 #include <array>
@@ -15,7 +15,7 @@ namespace sdk {
 
 /// What a cell does in a pattern.
 enum class Role {
-  pattern,  ///< pair, triple and quad cells, corners, crossings, the placed cell
+  pattern,  ///< pair, triple and quad cells, corners, crossings, a single or dead cell
   pivot,
   pincer,
   roof,  ///< corners of a rectangle that have more than its two digits
@@ -26,10 +26,11 @@ enum class Role {
 };
 inline constexpr std::size_t role_count = 8;
 
-/// Valid once a technique has returned true, until the driver tries the next one.
+/// Valid once a technique has returned true, a single is offered or a dead cell is found, until the
+/// driver tries the next technique.
 struct Step {
-  int place = 0;    ///< in the fixed order; 0 for a single
-  int variant = 0;  ///< the rule that fired, where a technique has several (from 1)
+  int place = 0;    ///< in the fixed order; 0 for a single or a dead cell
+  int variant = 0;  ///< what fired, where a technique has several rules (from 1)
   Unit unit{};      ///< where the pattern lies, for techniques of one or two units
   Unit other_unit{};
   NineSet digits;                           ///< of the pattern

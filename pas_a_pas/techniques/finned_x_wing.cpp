@@ -38,6 +38,7 @@ void apply(const Wing& wing, Cell target) {
   solver.step.unit = wing.base_line(0);
   solver.step.other_unit = wing.base_line(1);
   solver.step.digits = digit;
+  solver.step.variant = fins_on(wing, 0).empty() && fins_on(wing, 1).empty() ? 2 : 1;
   for (const std::size_t line : {0, 1})
     for (const std::size_t cover : {0, 1}) support(wing.corner(line, cover), Role::pattern, digit);
   eliminate_shown(target, digit);

@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "grid/errors.hpp"
-#include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/view.hpp"
 #include "puzzles/library.hpp"
+#include "ui/explanations.hpp"
 
 namespace sdk {
 
@@ -100,10 +100,27 @@ class WalkText final : public SolverObserver {
   static std::string name_of_end(RunEnd end) {
     if (end == RunEnd::completed) return "completed";
     if (end == RunEnd::exhausted) return "exhausted";
-    return "dead " + name_of(dead_cell().value());
+    return "dead " + name_of(cell_at(*solver.step.cells_as(Role::pattern).begin()));
   }
 
   std::array<NineSet, 82> before_{};
+};
+
+/// Writes the same in sentences.
+class ExplainedText final : public SolverObserver {
+ public:
+  explicit ExplainedText(std::string_view language) : language_(language) {}
+
+  void tried(const Technique&, bool changed) override {
+    if (changed) text += explain(solver.step, language_) + "\n";
+  }
+  void offered(Single, Cell, int) override { text += explain(solver.step, language_) + "\n"; }
+  void ended(RunEnd end) override { text += explain(end, solver.step, language_) + "\n"; }
+
+  std::string text;
+
+ private:
+  std::string_view language_;
 };
 
 std::string grid_line(std::string_view puzzle) {
@@ -129,6 +146,12 @@ void Walker::play(std::string_view puzzle, SolverObserver& observer) {
 
 std::string Walker::walk(std::string_view puzzle) {
   WalkText walk;
+  play(puzzle, walk);
+  return grid_line(puzzle) + walk.text;
+}
+
+std::string Walker::explained(std::string_view puzzle, std::string_view language) {
+  ExplainedText walk(language);
   play(puzzle, walk);
   return grid_line(puzzle) + walk.text;
 }
@@ -164,7 +187,4 @@ std::uint64_t library_signature() {
   return checksum.value();
 }
 
-}  // namespace sdk
-namespace sdk {
-std::string Walker::explained(std::string_view, std::string_view) { return ""; }
 }  // namespace sdk
