@@ -71,7 +71,7 @@ class MainWindow final : public Window {
   void click(Control button);
   /// A check box takes a value and acts on it.
   void check(Control box, bool on);
-  /// An item of the level list (0..4) is chosen; none reads as level 0.
+  /// An item of the level list (0..4) is chosen; none, or one that is not there, reads as level 0.
   void choose_level(std::optional<int> item);
   /// A key pressed in the window, before the control that has the focus gets it.
   void preview_key(int code);

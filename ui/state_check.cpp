@@ -62,6 +62,7 @@ void check_cells(Check& check, const MainWindow& w) {
 }
 
 void check_chains(Check& check, const MainWindow& w) {
+  check.expect(w.ChaineGrille.size() <= 81, "ChaineGrille is too long");
   check.expect(w.ChaineSolution.size() <= 81, "ChaineSolution is too long");
   check.expect(all_digits_or(w.ChaineSolution, '0'), "ChaineSolution holds more than digits");
 }
@@ -81,6 +82,8 @@ void check_controls(Check& check, const MainWindow& w) {
   check.expect(w.MSR.visible() == bool(globals.AfficheCandidats), "MSR is not as Check2 says");
   check.expect(w.visible(Control::rect2) == w.MSR.visible(), "rect2 is not as MSR");
   check.expect(w.control(Control::Check1).checked == bool(w.VerifAuVol), "Check1 differs");
+  check.expect(w.control(Control::Check2).checked == bool(globals.AfficheCandidats),
+               "Check2 differs");
   check.expect(w.control(Control::Check3).checked == bool(globals.ProtegeGrille), "Check3 differs");
   check.expect(w.visible(Control::Command1), "Command1 is hidden");
   check.expect(w.levels().size() == 5, "Niveau has lost its items");
