@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// The window after start-up.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/support/game.hpp"
+#include "ui/messages.hpp"
+#include "ui/state_check.hpp"
+#include "ui/version.hpp"
+
+namespace sdk::test {
+namespace {
+
+class StartUp : public testing::Test {
+ protected:
+  Game game;
+  MainWindow& w = game.window;
+};
+
+TEST_F(StartUp, GivesEveryFlagItsStartValue) {
+  EXPECT_EQ(globals.Langue, "Fr");
+  EXPECT_EQ(globals.NiveauCourant, 1);
+  EXPECT_EQ(globals.CouleurDonnees, 0xC0FFFFu);
+  EXPECT_EQ(globals.GrilleOk.bits(), 0);
+  EXPECT_EQ(globals.ResolutionSilencieuse.bits(), 0);
+  EXPECT_EQ(globals.ProtegeGrille.bits(), -1);
+  EXPECT_EQ(globals.AfficheCandidats.bits(), 0);
+  EXPECT_EQ(globals.ArretDemande.bits(), 0);
+  EXPECT_EQ(globals.ModePasAPas.bits(), 0);
+  EXPECT_EQ(w.VerifAuVol.bits(), 0);
+  EXPECT_EQ(globals.Messages, messages_in("Fr"));
+}
+
+TEST_F(StartUp, GivesTheFlagsTheirStartValuesAfterAnEarlierWindowToo) {
+  globals.NiveauCourant = 4;
+  globals.ProtegeGrille = false;
+  globals.Langue = "En";
+  globals.ModePasAPas = globals.ArretDemande = globals.AfficheCandidats = true;
+  globals.GrilleOk = globals.ResolutionSilencieuse = true;
+  FakeDesktop desktop;
+  MainWindow second(desktop);
+  second.start();
+  EXPECT_EQ(globals.NiveauCourant, 1);
+  EXPECT_TRUE(globals.ProtegeGrille);
+  EXPECT_EQ(globals.Langue, "Fr");
+  for (const Bool16 flag : {globals.ModePasAPas, globals.ArretDemande, globals.AfficheCandidats,
+                            globals.GrilleOk, globals.ResolutionSilencieuse})
+    EXPECT_FALSE(flag);
+}
+
+TEST_F(StartUp, NamesTheProgramAndItsVersion) {
+  EXPECT_EQ(globals.TitreFenetre, std::string("SuDoKu ") + program_version);
+  EXPECT_EQ(globals.TitreFenetre, "SuDoKu 1.0.0");
+  EXPECT_EQ(w.title(), globals.TitreFenetre);
+  EXPECT_EQ(w.control(Control::Label3).caption, globals.TitreFenetre + globals.Messages[15]);
+}
+
+TEST_F(StartUp, ShowsEveryControlButTheCandidates) {
+  for (int i = 0; i < control_count; ++i) {
+    const auto id = static_cast<Control>(i);
+    EXPECT_EQ(w.visible(id), id != Control::MSR && id != Control::rect2) << i;
+  }
+}
+
+TEST_F(StartUp, TicksOnlyTheProtectionOfTheGivens) {
+  EXPECT_FALSE(w.control(Control::Check1).checked);
+  EXPECT_FALSE(w.control(Control::Check2).checked);
+  EXPECT_TRUE(w.control(Control::Check3).checked);
+}
+
+TEST_F(StartUp, ShowsLevel1WithNoItemChosen) {
+  EXPECT_EQ(w.level_text(), "Facile");
+  EXPECT_EQ(w.chosen_level(), std::nullopt);
+}
+
+TEST_F(StartUp, ShowsANewPuzzle) {
+  EXPECT_EQ(w.ChaineSolution.size(), 81u);
+  EXPECT_EQ(joined(shown(w)).find_first_not_of(".123456789"), std::string::npos);
+  const auto givens = 81 - std::ranges::count(joined(shown(w)), '.');
+  EXPECT_GE(givens, 28);
+  EXPECT_LE(givens, 32);
+  EXPECT_EQ(w.MSF.selection(), (CellRange{8, 8, 8, 8}));
+  EXPECT_EQ(w.lines().size(), 4u);
+}
+
+TEST_F(StartUp, EmptiesTheCandidates) {
+  EXPECT_EQ(w.MSR.text(0, 0), " ");
+  EXPECT_EQ(w.MSR.text(8, 8), " ");
+}
+
+TEST_F(StartUp, AsksTheMachineForNothingButASeedAndTheArrow) {
+  FakeDesktop desktop;
+  MainWindow second(desktop);
+  second.start();
+  EXPECT_EQ(desktop.next_seed, 2u);
+  EXPECT_EQ(desktop.pointers, std::vector{Pointer::arrow});
+  EXPECT_TRUE(desktop.boxes.empty());
+  EXPECT_TRUE(desktop.clipboard.empty());
+  EXPECT_TRUE(desktop.prints.empty());
+  EXPECT_TRUE(desktop.errors.empty());
+  EXPECT_EQ(desktop.steps, 0);
+}
+
+TEST_F(StartUp, LeavesASoundState) { EXPECT_EQ(state_fault(w), ""); }
+
+TEST_F(StartUp, PutsTheFocusInTheGrid) { EXPECT_EQ(w.focus(), Control::MSF); }
+
+}  // namespace
+}  // namespace sdk::test

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// The check of the window's whole state.
+
+#include "ui/state_check.hpp"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/game.hpp"
+#include "ui/messages.hpp"
+
+namespace sdk::test {
+namespace {
+
+struct Damage {
+  const char* name;
+  void (*damage)(MainWindow& w);
+  const char* fault;
+};
+
+class StateCheck : public testing::TestWithParam<Damage> {};
+
+TEST_P(StateCheck, NamesTheDamage) {
+  Game game;
+  ASSERT_EQ(state_fault(game.window), "");
+  GetParam().damage(game.window);
+  EXPECT_EQ(state_fault(game.window), GetParam().fault);
+}
+
+void set_current(DisplayGrid& grid, int row, int column, Colour text, Colour back) {
+  grid.make_current(row - 1, column - 1);
+  grid.set_text_colour(text);
+  grid.set_back_colour(back);
+}
+
+const Damage damages[] = {
+    {"LongText", [](MainWindow& w) { w.MSF.set_text(1, 2, "12"); },
+     "MSF r2c3 holds more than one character"},
+    {"TextColour", [](MainWindow& w) { set_current(w.MSF, 4, 5, 0x123456, colour::white); },
+     "MSF r4c5 has an unknown text colour"},
+    {"Background", [](MainWindow& w) { set_current(w.MSF, 9, 1, colour::red, 0xC0C0C0); },
+     "MSF r9c1 has an unknown background"},
+    {"Mark",
+     [](MainWindow& w) {
+       w.MSR.make_current(2, 2);
+       w.MSR.set_mark(7);
+     },
+     "MSR r3c3 has an unknown mark"},
+    {"NegativeMark",
+     [](MainWindow& w) {
+       w.MSR.make_current(2, 2);
+       w.MSR.set_mark(-1);
+     },
+     "MSR r3c3 has an unknown mark"},
+    {"Grille", [](MainWindow& w) { w.Grille(1, 1) = 10; }, "Grille r1c1 out of range"},
+    {"NegativeGrille", [](MainWindow& w) { w.Grille(1, 9) = -1; }, "Grille r1c9 out of range"},
+    {"GrilleInitiale", [](MainWindow& w) { w.GrilleInitiale(9, 9) = 10; },
+     "GrilleInitiale r9c9 out of range"},
+    {"ResGrille", [](MainWindow& w) { w.resGrille(5, 5) = 10; }, "resGrille r5c5 out of range"},
+    {"LongSolution", [](MainWindow& w) { w.ChaineSolution = std::string(82, '1'); },
+     "ChaineSolution is too long"},
+    {"StrangeSolution", [](MainWindow& w) { w.ChaineSolution = "12x"; },
+     "ChaineSolution holds more than digits"},
+    {"LongChain", [](MainWindow& w) { w.ChaineGrille = std::string(82, ' '); },
+     "ChaineGrille is too long"},
+    {"Level", [](MainWindow&) { globals.NiveauCourant = 5; }, "NiveauCourant out of range"},
+    {"NegativeLevel", [](MainWindow&) { globals.NiveauCourant = -1; },
+     "NiveauCourant out of range"},
+    {"GivensColour", [](MainWindow&) { globals.CouleurDonnees = colour::white; },
+     "CouleurDonnees is no colour of givens"},
+    {"Language", [](MainWindow&) { globals.Langue = "De"; }, "Langue is unknown"},
+    {"Messages", [](MainWindow&) { globals.Messages[13] = ""; }, "Messages differ from Langue"},
+    {"SilentSolve", [](MainWindow&) { globals.ResolutionSilencieuse = true; },
+     "ResolutionSilencieuse outlived its solve"},
+    {"HiddenGrid", [](MainWindow& w) { w.MSF.set_visible(false); }, "MSF stayed hidden"},
+    {"Candidates", [](MainWindow& w) { w.MSR.set_visible(true); }, "MSR is not as Check2 says"},
+    {"Frame", [](MainWindow& w) { w.set_visible(Control::rect2, true); }, "rect2 is not as MSR"},
+    {"Check1", [](MainWindow& w) { w.VerifAuVol = true; }, "Check1 differs"},
+    {"Check2",
+     [](MainWindow& w) {
+       globals.AfficheCandidats = true;
+       w.MSR.set_visible(true);
+       w.set_visible(Control::rect2, true);
+       w.trace_ligne();
+     },
+     "Check2 differs"},
+    {"Check3", [](MainWindow&) { globals.ProtegeGrille = false; }, "Check3 differs"},
+    {"Command1", [](MainWindow& w) { w.set_visible(Control::Command1, false); },
+     "Command1 is hidden"},
+    {"Search", [](MainWindow& w) { w.searches_running = 1; }, "a search is still counted"},
+    {"TabStop", [](MainWindow& w) { w.MSF.set_tab_stop(false); }, "MSF stayed without focus marks"},
+    {"FocusMark", [](MainWindow& w) { w.MSF.set_marks_current(false); },
+     "MSF stayed without focus marks"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Each, StateCheck, testing::ValuesIn(damages),
+                         [](const auto& test) { return test.param.name; });
+
+/// A window that was never started, made to look as if.
+class Unstarted : public testing::Test {
+ protected:
+  Unstarted() {
+    globals = {};
+    globals.ProtegeGrille = false;
+    globals.Messages = messages_in("Fr");
+    w.set_visible(Control::MSR, false);
+    w.set_visible(Control::rect2, false);
+  }
+
+  FakeDesktop desktop;
+  MainWindow w{desktop};
+};
+
+TEST_F(Unstarted, StateHasNoLevelItems) { EXPECT_EQ(state_fault(w), "Niveau has lost its items"); }
+
+TEST_F(Unstarted, StateHasNoBoxLines) {
+  w.langage("Fr");
+  EXPECT_EQ(state_fault(w), "box lines are missing");
+}
+
+TEST(SoundState, IsAnythingThatThePlayerCanReach) {
+  Game game;
+  MainWindow& w = game.window;
+  w.check(Control::Check2, true);
+  EXPECT_EQ(state_fault(w), "");
+  w.choose_level(4);
+  w.click(Control::Command1);
+  EXPECT_EQ(state_fault(w), "");
+  w.click(Control::Command7);
+  EXPECT_EQ(state_fault(w), "");
+  w.check(Control::Check3, false);
+  w.click(Control::Command2);
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(state_fault(w), "");
+  w.preview_key(key::f1);
+  EXPECT_EQ(state_fault(w), "");
+}
+
+}  // namespace
+}  // namespace sdk::test
