@@ -94,41 +94,4 @@ void maj_candidats() {
     if (solver.Candidats.count(cell_at(number)) != 0) recompute(cell_at(number), values);
 }
 
-namespace {
-
-std::string cell_fault(Cell cell, const Values& values) {
-  const CandidateCube& cube = solver.Candidats;
-  const NineSet digits = cube.digits(cell);
-  if (cube.value(cell) != 0 && !digits.empty()) return "a filled cell has candidates";
-  if (cube.count(cell) != digits.count()) return "the count is not the number of flags";
-  if (!(digits & values.seen_from(cell)).empty()) return "a candidate is seen by its value";
-  for (int digit = 1; digit <= 9; ++digit)
-    if (cube.cells_with(digit).contains(cell) != digits.contains(digit))
-      return "the digit's cells disagree with the flags";
-  return "";
-}
-
-std::string unit_fault(Unit unit) {
-  for (int place = 1; place <= 9; ++place)
-    for (int digit = 1; digit <= 9; ++digit)
-      if (solver.Candidats.places(unit, digit).contains(place) !=
-          solver.Candidats.has(unit.cell(place), digit))
-        return "the digit's places disagree with the flags";
-  return "";
-}
-
-}  // namespace
-
-std::string candidats_fault() {
-  const Values values;
-  for (int number = 1; number <= 81; ++number) {
-    const auto [row, column] = cell_at(number);
-    if (const std::string fault = cell_fault({row, column}, values); !fault.empty())
-      return "r" + std::to_string(row) + "c" + std::to_string(column) + ": " + fault;
-  }
-  for (const Unit unit : all_units)
-    if (const std::string fault = unit_fault(unit); !fault.empty()) return fault;
-  return "";
-}
-
 }  // namespace sdk

@@ -6,8 +6,6 @@
 /// candidates add the stored counts.
 #pragma once
 
-#include <string>
-
 #include "pas_a_pas/tables.hpp"
 
 namespace sdk {
@@ -34,9 +32,5 @@ void clear_cell(int row, int column);
 /// everything when it has a value itself, and is counted afresh. A cell that is left with two
 /// candidates enters `Paires` and shows them in `MSR` as "3 , 8".
 void maj_candidats();
-
-/// Empty when the cube is as every round must find it: sets and flags agree, counts are true, no
-/// filled cell has a candidate and no candidate is seen by its value. Else what is wrong.
-std::string candidats_fault();
 
 }  // namespace sdk
