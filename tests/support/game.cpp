@@ -71,6 +71,11 @@ std::string nine_lines(Print print) {
   return out.str();
 }
 
+std::string on_one_line(std::string text) {
+  std::ranges::replace(text, '\r', '/');
+  return text;
+}
+
 void dump_grid(std::ostream& out, const char* name, const DisplayGrid& grid) {
   const CellRange s = grid.selection();
   out << name << " current " << name_of(grid.current_row() + 1, grid.current_column() + 1)
@@ -79,8 +84,8 @@ void dump_grid(std::ostream& out, const char* name, const DisplayGrid& grid) {
       << grid.tab_stop() << " marks " << grid.marks_current() << '\n';
   out << std::hex << nine_lines([&](std::ostream& line, int r, int c) {
     const DisplayCell& cell = grid.cell(r - 1, c - 1);
-    line << '"' << cell.text << "\" " << std::hex << cell.text_colour << ' ' << cell.back_colour
-         << ' ' << cell.font_size << ' ' << cell.mark << "  ";
+    line << '"' << on_one_line(cell.text) << "\" " << std::hex << cell.text_colour << ' '
+         << cell.back_colour << ' ' << cell.font_size << ' ' << cell.mark << "  ";
   }) << std::dec;
 }
 
@@ -176,6 +181,14 @@ std::string dump(const MainWindow& window) {
   dump_globals(out);
   dump_controls(out, window);
   return out.str();
+}
+
+std::string difference(const std::string& before, const std::string& after) {
+  std::istringstream was(before), is(after);
+  std::string old_line, new_line;
+  while (std::getline(was, old_line) && std::getline(is, new_line))
+    if (old_line != new_line) return "was " + old_line + "\nis  " + new_line;
+  return before == after ? "" : "one has more lines";
 }
 
 GridRecorder::GridRecorder(DisplayGrid& grid, std::string name, Lines& repaints)

@@ -42,6 +42,9 @@ std::string all_cells();
 /// mean equal states.
 std::string dump(const MainWindow& window);
 
+/// The first line in which two dumps differ, as "was ... is ..."; empty when they are equal.
+std::string difference(const std::string& before, const std::string& after);
+
 /// Hears of one grid's changes.
 class GridRecorder : public DisplayGridListener {
  public:
