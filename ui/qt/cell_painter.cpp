@@ -24,11 +24,13 @@ void paint_thin_lines(QPainter& painter, const QRect& square) {
   painter.fillRect(QRect(square.right(), square.top(), 1, square.height() - 1), thin_line);
 }
 
-/// A candidate, or the pale dot where there is none.
+/// A candidate, or a pale dot in the middle of its place where there is none.
 void paint_candidate(QPainter& painter, const QRect& place, const QString& entry, QColor colour) {
-  if (entry == ".") colour.setAlpha(absent_candidate_alpha);
+  constexpr QChar middle_dot(0xB7);
+  const bool absent = entry == ".";
+  if (absent) colour.setAlpha(absent_candidate_alpha);
   painter.setPen(colour);
-  painter.drawText(place, Qt::AlignCenter, entry);
+  painter.drawText(place, Qt::AlignCenter, absent ? QString(middle_dot) : entry);
 }
 
 void paint_candidates(QPainter& painter, const QRect& square, const QStringList& lines,

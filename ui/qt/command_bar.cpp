@@ -39,7 +39,6 @@ constexpr ButtonLook button_looks[] = {
 
 constexpr int icon_side = 28;
 constexpr int button_side = 46;
-constexpr int group_gap = 24;
 
 std::string name_for_player(const MainWindow& window, Control button) {
   const std::string& tooltip = window.control(button).tooltip;
@@ -64,10 +63,9 @@ QLayout* CommandBar::make_buttons() {
   auto* row = new QHBoxLayout;
   row->setSpacing(4);
   for (const ButtonLook& look : button_looks) {
-    if (look.starts_group) row->addSpacing(group_gap);
+    if (look.starts_group) row->addStretch();
     row->addWidget(make_button(look.control, look.name, look.icon));
   }
-  row->addStretch();
   return row;
 }
 
@@ -88,7 +86,7 @@ QToolButton* CommandBar::make_button(Control control, const char* name, const ch
 }
 
 void CommandBar::show_state(const MainWindow& window) {
-  title_->setText(QString::fromStdString(window.control(Control::Label3).caption).trimmed());
+  title_->setText(QString::fromStdString(window.control(Control::Label3).caption));
   title_->setVisible(window.visible(Control::Label3));
   for (const auto& [control, button] : buttons_) {
     const QString name = QString::fromStdString(name_for_player(window, control));

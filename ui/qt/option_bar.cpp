@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -30,11 +31,18 @@ QStringList items_of(const QComboBox& list) {
   return items;
 }
 
-/// The placeholder is the level that holds, so it reads like a chosen one.
-void set_placeholder_colour(QComboBox& list) {
-  QPalette palette = list.palette();
-  palette.setColor(QPalette::PlaceholderText, palette.color(QPalette::ButtonText));
-  list.setPalette(palette);
+void set_colour(QWidget& widget, QPalette::ColorRole role, const QColor& colour) {
+  QPalette palette = widget.palette();
+  palette.setColor(role, colour);
+  widget.setPalette(palette);
+}
+
+/// The inside of an empty check box: on a dark window lighter than the window, or it could not be
+/// told from it.
+QColor check_box_inside(const QPalette& palette) {
+  const QColor window = palette.color(QPalette::Window);
+  const bool dark = window.lightness() < palette.color(QPalette::WindowText).lightness();
+  return dark ? window.lighter(200) : palette.color(QPalette::Base);
 }
 
 QLabel* make_label(const char* name, QWidget* parent) {
@@ -42,6 +50,12 @@ QLabel* make_label(const char* name, QWidget* parent) {
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   return label;
+}
+
+void scale_font(QWidget& widget, double factor) {
+  QFont font = widget.font();
+  font.setPointSizeF(font.pointSizeF() * factor);
+  widget.setFont(font);
 }
 
 }  // namespace
@@ -53,9 +67,23 @@ OptionBar::OptionBar(QWidget* parent)
       hint_(make_label("Astuce", this)) {
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
+  scale_font(*hint_, 0.9);
   rows->addLayout(make_boxes());
   rows->addLayout(make_level_row());
   rows->addWidget(hint_);
+  take_colours();
+}
+
+/// The placeholder is the level that holds, so it reads like a chosen one.
+void OptionBar::take_colours() {
+  set_colour(*levels_, QPalette::PlaceholderText, palette().color(QPalette::ButtonText));
+  for (const Box& box : boxes_)
+    set_colour(*box.widget, QPalette::Base, check_box_inside(palette()));
+}
+
+void OptionBar::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) take_colours();
 }
 
 QLayout* OptionBar::make_boxes() {
@@ -81,7 +109,6 @@ QLayout* OptionBar::make_level_row() {
   levels_->setObjectName("Niveau");
   levels_->setFocusPolicy(Qt::TabFocus);
   levels_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  set_placeholder_colour(*levels_);
   connect(levels_, &QComboBox::activated, this, &OptionBar::level_chosen);
   auto* row = new QHBoxLayout;
   row->addWidget(levels_);

@@ -29,6 +29,9 @@ class OptionBar : public QWidget {
   void ticked(Control box, bool on);
   void level_chosen(int item);
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   struct Box {
     Control control;
@@ -38,9 +41,9 @@ class OptionBar : public QWidget {
   QLayout* make_boxes();
   QCheckBox* make_box(Control control, const char* name);
   QLayout* make_level_row();
+  void take_colours();
   void show_box(const MainWindow& window, const Box& box);
   void show_levels(const MainWindow& window);
-  void show_label(const MainWindow& window);
 
   std::vector<Box> boxes_;
   QComboBox* levels_;
