@@ -49,6 +49,8 @@ long Arguments::number(std::string_view what, long low, long high) {
   return value;
 }
 
+int Arguments::grid_line(std::string_view what) { return static_cast<int>(number(what, 1, 9)) - 1; }
+
 bool Arguments::choice(std::string_view yes, std::string_view no) {
   const std::string both = std::string(yes) + " or " + std::string(no);
   const std::string taken = word(both);

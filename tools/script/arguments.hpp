@@ -36,6 +36,8 @@ class Arguments {
   std::string rest(std::string_view what);
   /// A decimal number from `low` to `high`.
   long number(std::string_view what, long low, long high);
+  /// A row or column, 1 to 9 in the script, 0 to 8 in the result.
+  int grid_line(std::string_view what);
   /// Whether the next word is `yes` rather than `no`.
   bool choice(std::string_view yes, std::string_view no);
   Control control();

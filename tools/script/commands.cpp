@@ -78,16 +78,12 @@ Action level(Script& script, Arguments& arguments) {
   };
 }
 
-int line_number(Arguments& arguments, const char* what) {
-  return static_cast<int>(arguments.number(what, 1, DisplayGrid::size)) - 1;
-}
-
 Action select(Script& script, Arguments& arguments) {
-  const int row = line_number(arguments, "R");
-  const int column = line_number(arguments, "C");
+  const int row = arguments.grid_line("R");
+  const int column = arguments.grid_line("C");
   const bool block = !arguments.empty();
-  const int other_row = block ? line_number(arguments, "R2") : row;
-  const int other_column = block ? line_number(arguments, "C2") : column;
+  const int other_row = block ? arguments.grid_line("R2") : row;
+  const int other_column = block ? arguments.grid_line("C2") : column;
   return [=, &script] {
     script.window().MSF.select(row, column, other_row, other_column);
     script.window().redraw_lines();

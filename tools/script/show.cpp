@@ -90,10 +90,6 @@ std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
   return square_text(" ", [&](int r, int c) { return colour_text(grid.cell(r, c).*which); });
 }
 
-int line_number(Arguments& arguments, const char* what) {
-  return static_cast<int>(arguments.number(what, 1, DisplayGrid::size)) - 1;
-}
-
 template <DisplayGrid Window::*grid>
 TopicText colours_of(Arguments& arguments) {
   const auto which =
@@ -106,8 +102,8 @@ TopicText grid_topic(Arguments& arguments) {
   if (arguments.empty())
     return [](Script& script) { return first_characters(script.window().*grid); };
   if (arguments.next() == "text" || arguments.next() == "back") return colours_of<grid>(arguments);
-  const int row = line_number(arguments, "R");
-  const int column = line_number(arguments, "C");
+  const int row = arguments.grid_line("R");
+  const int column = arguments.grid_line("C");
   return [=](Script& s) { return cell_text((s.window().*grid).cell(row, column)); };
 }
 
