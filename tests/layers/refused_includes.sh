@@ -8,7 +8,8 @@ set -euo pipefail
 check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
-mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/script}
+mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/{script,zolv}}
+touch "$tree"/tools/zolv/beside.hpp
 failures=0
 
 expect() { # STATUS EXPECTED-OUTPUT FILE LINE: what the check says of FILE with LINE as its second
@@ -33,6 +34,7 @@ accepted ui/a.cpp '#include "files/puzzle_file.hpp"'
 accepted ui/qt/a.cpp '#include <QWidget>'
 accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
 accepted tools/script/a.cpp '#include "ui/main_window.hpp"'
+accepted tools/zolv/a.cpp '#include "beside.hpp"'
 
 refused grid/a.cpp '#include "ui/main_window.hpp"'
 refused grid/a.hpp '#  include <puzzles/library.hpp>'
@@ -46,5 +48,6 @@ refused ui/a.cpp '#include <QWidget>'
 refused ui/a.cpp '#include <QtGui/QPen>'
 refused grid/a.cpp '#include "qpoint.h"'
 refused tools/script/a.cpp '#include <QCoreApplication>'
+refused tools/zolv/a.cpp '#include "grid/types.hpp"'
 
 exit $((failures > 0))
