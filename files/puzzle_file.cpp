@@ -22,12 +22,13 @@ std::string displayed_grid() {
   return texts;
 }
 
+/// Two characters a cell; a text that is too short fills the cells it lacks with blanks.
 std::string file_text(std::string_view grid) {
   std::string text;
   for (int k = 1; k <= 81; ++k) {
     const std::string_view cell = character(grid, k);
     text += ' ';
-    text += cell.empty() || cell == " " ? "." : cell;
+    text += cell.empty() ? " " : cell == " " ? "." : cell;
     if (k % 9 == 0) text += "\r\n";
   }
   return text;
