@@ -67,6 +67,13 @@ TEST_F(PuzzleFile, HoldsOtherCharactersAsTheyAre) {
             " # . . . . . . . .\r\n" + repeated(empty_line, 8));
 }
 
+TEST_F(PuzzleFile, WithCellsOfEmptyTextEndsInBlanks) {
+  EXPECT_EQ(saved("12.......\n.........\n.........\n.........\n.........\n.........\n.........\n"
+                  ".........\n?......??\n"),
+            " 1 2 . . . . . . .\r\n" + repeated(empty_line, 7) + " . . . . . .      \r\n");
+  EXPECT_EQ(w.ChaineGrille.size(), 78u);
+}
+
 TEST_F(PuzzleFile, ReplacesWhatTheFileHeld) {
   std::ofstream(path) << std::string(5000, 'x');
   EXPECT_EQ(saved(complete_grid).size(), 9u * 20);

@@ -255,6 +255,25 @@ TEST_F(Search, FillsOnlyTheSolutionWhenSilent) {
             (Lines{"refresh window", "lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 
+TEST_F(Search, ShowsTheButtonsThatNeedAPuzzleWhenItEnds) {
+  for (const char* grid : {easy_puzzle, impossible_puzzle}) {
+    game.draw(grid);
+    desktop.at_step[2] = [&] { w.set_visible(Control::sauve, false); };
+    w.Resoudre();
+    EXPECT_TRUE(w.visible(Control::sauve));
+  }
+}
+
+TEST_F(Search, LeavesTheButtonsAsTheyAreWhenItIsStopped) {
+  game.draw(easy_puzzle);
+  desktop.at_step[2] = [&] {
+    w.set_visible(Control::sauve, false);
+    w.preview_key(key::escape);
+  };
+  w.Resoudre();
+  EXPECT_FALSE(w.visible(Control::sauve));
+}
+
 TEST_F(Search, WalksAFullGridOnceAndShowsItUnchanged) {
   game.draw(complete_grid);
   w.Resoudre();
@@ -355,6 +374,28 @@ TEST_F(Search, EndsWithTheProgramWhenThePlayerQuitsInIt) {
   desktop.at_step[5] = [&] { w.click(Control::Command3); };
   EXPECT_THROW(w.click(Control::Bouton_GO), ProgramEnd);
   EXPECT_EQ(w.searches_running, 0);
+}
+
+TEST_F(Search, EndsWhenASearchInsideItLeftTheGridBeforeTheFirstCell) {
+  const char* const impossible_with_a_fixed_corner =
+      "12.345679\n..8......\n.........\n.........\n.........\n.........\n.........\n"
+      ".........\n.........\n";
+  const long going_back = 1 + 20;  // of the middle search
+  desktop.at_step[1] = [&] {
+    draw(w, impossible_puzzle);
+    w.Resoudre();
+  };
+  desktop.at_step[going_back] = [&] {
+    draw(w, impossible_with_a_fixed_corner);
+    w.Resoudre();
+    EXPECT_EQ(w.NumCase, 0);
+  };
+  game.draw(sparse_puzzle);
+  w.Resoudre();
+  EXPECT_EQ(w.NumCase, -1);
+  EXPECT_LT(w.Colonne, 1);
+  EXPECT_EQ(desktop.boxes, (std::vector(3, message(13, Icon::critical))));
+  EXPECT_TRUE(desktop.at_step.empty());
 }
 
 TEST_F(Search, RefusesDigitsAndErasingWhileItRuns) {
