@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "solver.hpp"
+
+#include <gtest/gtest.h>
+
+#include "grids.hpp"
+
+namespace zolv {
+namespace {
+
+constexpr std::string_view full =
+    "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
+
+/// The text of the answer, "none" when there is none.
+std::string answer(std::string_view givens) {
+  const std::optional<Grid> solution = solve(grid_of(givens));
+  return solution ? text_of(*solution) : "none";
+}
+
+std::string with(std::string_view grid, int cell, char text) {
+  std::string changed(grid);
+  changed.at(static_cast<std::size_t>(cell)) = text;
+  return changed;
+}
+
+void expect_solved(std::string_view givens) {
+  const std::optional<Grid> solution = solve(grid_of(givens));
+  ASSERT_TRUE(solution) << givens;
+  EXPECT_TRUE(solves(*solution, grid_of(givens))) << givens << '\n' << text_of(*solution);
+}
+
+/// What the plain search says of `givens`, the solver says too.
+void expect_agreement(const Grid& givens) {
+  Grid plain = givens;
+  const int solutions = count_solutions(plain, 2);
+  const std::optional<Grid> solution = solve(givens);
+  ASSERT_EQ(solution.has_value(), solutions > 0) << text_of(givens);
+  if (solutions == 0) return;
+  EXPECT_TRUE(solves(*solution, givens)) << text_of(givens) << '\n' << text_of(*solution);
+}
+
+TEST(Solver, FindsTheOneSolution) {
+  EXPECT_EQ(
+      answer("9876...21..592........385..42....983.934....6...396...3....529.269....15..421...."),
+      full);
+}
+
+TEST(Solver, GivesAFullGridBackAsItIs) { EXPECT_EQ(answer(full), full); }
+
+TEST(Solver, FillsTheOneEmptyCellWhereverItIs) {
+  for (int cell = 0; cell < 81; ++cell) EXPECT_EQ(answer(with(full, cell, '.')), full);
+}
+
+TEST(Solver, RefusesAFullGridWithAWrongDigitWhereverItIs) {
+  for (int cell = 0; cell < 81; ++cell) {
+    const char wrong = full[static_cast<std::size_t>(cell)] == '9' ? '1' : '9';
+    EXPECT_EQ(answer(with(full, cell, wrong)), "none") << cell;
+  }
+}
+
+TEST(Solver, FillsAnEmptyGrid) { expect_solved(std::string(81, '.')); }
+
+TEST(Solver, TakesEveryDigitInEveryCellOfAnEmptyGrid) {
+  for (int cell = 0; cell < 81; ++cell)
+    for (char digit = '1'; digit <= '9'; ++digit)
+      expect_solved(with(std::string(81, '.'), cell, digit));
+}
+
+TEST(Solver, AnswersOneOfSeveralSolutionsAndAlwaysTheSame) {
+  // 1 and 9 fit both ways in the four empty cells.
+  const std::string givens =
+      "98765432113592746864213857942657198379348215651839674237.8652.426.7438.5854219637";
+  Grid plain = grid_of(givens);
+  ASSERT_EQ(count_solutions(plain, 3), 2);
+  expect_solved(givens);
+  EXPECT_EQ(answer(givens), answer(givens));
+}
+
+TEST(Solver, RefusesGivensThatClashInARow) {
+  EXPECT_EQ(answer("5.......5" + std::string(72, '.')), "none");
+}
+
+TEST(Solver, RefusesGivensThatClashInAColumn) {
+  EXPECT_EQ(answer(with(with(std::string(81, '.'), 4, '7'), 76, '7')), "none");
+}
+
+TEST(Solver, RefusesGivensThatClashInABox) {
+  EXPECT_EQ(answer(with(with(std::string(81, '.'), 60, '3'), 80, '3')), "none");
+}
+
+TEST(Solver, RefusesACellWithoutCandidates) {
+  EXPECT_EQ(answer("12345678." + std::string(9, '.') + "........9" + std::string(54, '.')), "none");
+}
+
+TEST(Solver, RefusesADigitWithoutAPlaceInARow) {
+  EXPECT_EQ(answer("..."
+                   "123"
+                   "..."
+                   "9........"
+                   ".......9." +
+                   std::string(54, '.')),
+            "none");
+}
+
+TEST(Solver, RefusesACellWithTwoDigitsThatFitNowhereElse) {
+  // 1 and 2 both have the last cell of the first row as their only place in the top right box.
+  EXPECT_EQ(answer("......34.12..........12...." + std::string(54, '.')), "none");
+}
+
+TEST(Solver, SolvesGridsThatDefeatASearchRowByRow) {
+  // The first row is empty and its solution is 987654321.
+  EXPECT_EQ(
+      answer("000000000000300007000010060001800740009002000000700080035400100708006059090000400"),
+      "987654321614328597352917864561893742879542613423761985235489176748136259196275438");
+  EXPECT_EQ(
+      answer("000000000000900000602038000026070080700002100008000040001805000209003005050009607"),
+      "987654321135927468642138579426571983793482156518396742371865294269743815854219637");
+}
+
+TEST(Solver, SolvesGridsThatNeedManyGuesses) {
+  expect_solved(
+      "970204080010008000020000300000320009207060400360000010000900000000000057500076000");
+  expect_solved(
+      "001000380080017000700000000470000020000581000005000600200100000360008040000740002");
+  expect_solved(
+      "230000010048200006000009000802000050090010602005000003000600000003070000087591300");
+}
+
+TEST(Solver, AgreesWithAPlainSearchOnRandomGrids) {
+  std::mt19937 random(1);
+  for (int run = 0; run < 500; ++run) expect_agreement(random_puzzle(random, 26 + run % 40));
+}
+
+TEST(Solver, AgreesWithAPlainSearchOnRandomGridsWithAChangedDigit) {
+  std::mt19937 random(2);
+  int unsolvable = 0;
+  for (int run = 0; run < 500; ++run) {
+    Grid givens = random_puzzle(random, 26 + run % 40);
+    const int cell = static_cast<int>(random() % 81), digit = static_cast<int>(1 + random() % 9);
+    if (!fits(givens, cell, digit)) continue;
+    givens[cell] = static_cast<std::uint8_t>(digit);
+    expect_agreement(givens);
+    unsolvable += !solve(givens);
+  }
+  EXPECT_GT(unsolvable, 20);
+}
+
+}  // namespace
+}  // namespace zolv
