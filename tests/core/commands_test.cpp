@@ -31,7 +31,9 @@ TEST_F(Commands, NewPuzzleShowsTheGivensOfTheLibrarysPuzzleInTheLevelsColour) {
   for (int level = 0; level <= 4; ++level) {
     w.choose_level(level);
     globals.CouleurDonnees = colour::from_file;
-    game.forget();
+    w.ChaineSolution = "";
+    w.click(Control::Command7);
+    ASSERT_NE(cells_with_text_colour(w.MSF, colour::red), "");
     w.click(Control::Command1);
     const Colour expected = colour::level[static_cast<std::size_t>(level)];
     EXPECT_EQ(globals.CouleurDonnees, expected);

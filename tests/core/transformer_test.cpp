@@ -90,7 +90,7 @@ List shuffled(List list, Random& random) {
 /// Where each line comes from, for rows and columns.
 struct Lines9 {
   std::array<int, 10> from{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-  void exchange(int a, int b) { std::swap(from[size_t(a)], from[size_t(b)]); }
+  void exchange(int a, int b) { std::swap(from.at(size_t(a)), from.at(size_t(b))); }
   void exchange_bands(int a, int b) {
     for (int k = 1; k <= 3; ++k) exchange(3 * a - 3 + k, 3 * b - 3 + k);
   }
