@@ -23,4 +23,6 @@ cmake --build --preset "$preset"
 echo "Running the tests: ${tier:-quick (core and transcripts), window (the real window), \
 deep (random events)}."
 if [[ -z ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then export QT_QPA_PLATFORM=offscreen; fi
-ctest --test-dir build --output-on-failure --no-tests=error -j "$(nproc)" -L "$tier"
+progress=
+if [[ -t 1 ]]; then progress=--progress; fi
+ctest --test-dir build --output-on-failure --no-tests=error -j "$(nproc)" -L "$tier" $progress
