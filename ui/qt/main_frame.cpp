@@ -78,7 +78,7 @@ void MainFrame::connect_grids() {
 
 void MainFrame::watch_application() {
   qApp->installEventFilter(this);
-  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { session_ends_ = true; });
+  connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrame::expect_session_end);
 }
 
 /// Sees every event of the program before its receiver does.

@@ -26,6 +26,9 @@ class MainFrame : public QWidget, private WindowListener {
   /// To be called once, before the window is shown: places it in the middle of the screen.
   void centre_on_screen();
 
+  /// The session is about to end: until the player does something, closing asks nothing.
+  void expect_session_end() { session_ends_ = true; }
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;

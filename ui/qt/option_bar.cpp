@@ -60,16 +60,14 @@ void scale_font(QWidget& widget, double factor) {
 
 }  // namespace
 
-OptionBar::OptionBar(QWidget* parent)
-    : QWidget(parent),
-      levels_(new QComboBox(this)),
-      count_(make_label("Label", this)),
-      hint_(make_label("Astuce", this)) {
+// The order in which the controls are made is the order of Tab.
+OptionBar::OptionBar(QWidget* parent) : QWidget(parent) {
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
-  scale_font(*hint_, 0.9);
   rows->addLayout(make_boxes());
   rows->addLayout(make_level_row());
+  hint_ = make_label("Astuce", this);
+  scale_font(*hint_, 0.9);
   rows->addWidget(hint_);
   take_colours();
 }
@@ -106,6 +104,8 @@ QCheckBox* OptionBar::make_box(Control control, const char* name) {
 }
 
 QLayout* OptionBar::make_level_row() {
+  levels_ = new QComboBox(this);
+  count_ = make_label("Label", this);
   levels_->setObjectName("Niveau");
   levels_->setFocusPolicy(Qt::TabFocus);
   levels_->setSizeAdjustPolicy(QComboBox::AdjustToContents);

@@ -46,9 +46,9 @@ class OptionBar : public QWidget {
   void show_levels(const MainWindow& window);
 
   std::vector<Box> boxes_;
-  QComboBox* levels_;
-  QLabel* count_;
-  QLabel* hint_;
+  QComboBox* levels_ = nullptr;
+  QLabel* count_ = nullptr;
+  QLabel* hint_ = nullptr;
 };
 
 }  // namespace sdk

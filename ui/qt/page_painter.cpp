@@ -47,11 +47,15 @@ struct DrawingPainter {
 
 }  // namespace
 
+void paint_drawings(QPainter& painter, const Page& page, const DisplayGrid& puzzle) {
+  for (const Drawing& drawing : page) std::visit(DrawingPainter{painter, puzzle}, drawing);
+}
+
 bool paint_page(QPagedPaintDevice& device, const Page& page, const DisplayGrid& puzzle) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.scale(device.logicalDpiX() / twips_per_inch, device.logicalDpiY() / twips_per_inch);
-  for (const Drawing& drawing : page) std::visit(DrawingPainter{painter, puzzle}, drawing);
+  paint_drawings(painter, page, puzzle);
   return painter.end();
 }
 

@@ -8,8 +8,12 @@
 #include "grid/drawing.hpp"
 
 class QPagedPaintDevice;
+class QPainter;
 
 namespace sdk {
+
+/// Paints `page` in order, with `puzzle` as its picture. The painter's unit must be the twip.
+void paint_drawings(QPainter& painter, const Page& page, const DisplayGrid& puzzle);
 
 /// Paints `page` on the printable area of the device's current page, with `puzzle` as its picture.
 /// False when the device refuses to be painted on.
