@@ -66,6 +66,22 @@ TEST_F(StartUp, ShowsEveryControlButTheCandidates) {
   }
 }
 
+TEST_F(StartUp, HidesTheButtonsThatNeedAPuzzleUntilThereIsOne) {
+  FakeDesktop desktop;
+  MainWindow second(desktop);
+  int picks = 0;
+  desktop.at_pick = [&] {
+    ++picks;
+    for (const Control id :
+         {Control::Command2, Control::sauve, Control::Bouton_GO, Control::Command4})
+      EXPECT_FALSE(second.visible(id));
+    EXPECT_TRUE(second.visible(Control::Command1));
+    EXPECT_TRUE(second.visible(Control::Command6));
+  };
+  second.start();
+  EXPECT_EQ(picks, 1);
+}
+
 TEST_F(StartUp, TicksOnlyTheProtectionOfTheGivens) {
   EXPECT_FALSE(w.control(Control::Check1).checked);
   EXPECT_FALSE(w.control(Control::Check2).checked);

@@ -97,7 +97,10 @@ void FakeDesktop::print(const Page& page) {
   prints.push_back(page);
 }
 
-std::uint32_t FakeDesktop::random_seed() { return next_seed++; }
+std::uint32_t FakeDesktop::random_seed() {
+  at_pick();
+  return next_seed++;
+}
 
 fs::path FakeDesktop::data_folder() {
   if (!has_data_folder) throw RuntimeError("data folder", "disk is read-only");

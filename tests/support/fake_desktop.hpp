@@ -41,6 +41,7 @@ class FakeDesktop : public Desktop {
   bool printing_works = true;
   bool has_data_folder = true;
   std::uint32_t next_seed = 1;  ///< grows by one at each pick
+  std::function<void()> at_pick = [] {};
   /// What happens at the n-th (from 1) call of let_events_run since the last forget().
   std::map<long, std::function<void()>> at_step;
 
