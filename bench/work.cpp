@@ -21,7 +21,7 @@ class Game {
  public:
   Game() : desktop_(guard_), window_(desktop_), frame_(window_, guard_) {
     desktop_.set_window(&frame_);
-    window_.start();
+    window_.start("");
     frame_.show();
     QApplication::processEvents();
   }

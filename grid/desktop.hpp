@@ -7,7 +7,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "grid/drawing.hpp"
 
@@ -58,6 +60,24 @@ class Desktop {
   /// The player's own folder for files that the program writes unasked; it exists after the call.
   /// Throws RuntimeError when it cannot be made.
   virtual std::filesystem::path data_folder() = 0;
+
+  /// The folder of the running program.
+  virtual std::filesystem::path program_folder() = 0;
+
+  /// The folder for the files that are exchanged with the external solver: the value of the
+  /// environment variable "tmp", which is set to a private folder when it was not set.
+  virtual std::string temporary_folder() = 0;
+
+  /// Starts a command line of the system's command interpreter without waiting; the result is not
+  /// 0. Throws std::system_error when it cannot be started.
+  virtual std::uint32_t start_process(const std::string& command_line) = 0;
+  /// The exit code of a started process, 259 while it runs; nothing when there is no such process
+  /// (any more).
+  virtual std::optional<std::uint32_t> exit_code(std::uint32_t id) = 0;
+
+  /// Makes `bytes` the whole content of `file` so that a failure leaves what was there. Throws
+  /// RuntimeError naming the file.
+  virtual void replace_file(const std::string& file, std::string_view bytes) = 0;
 
   /// Puts one line where errors are reported (standard error).
   virtual void report_error(const std::string& line) = 0;

@@ -37,6 +37,20 @@ std::string_view character(std::string_view text, int k) {
   return position < text.size() ? text.substr(position, 1) : std::string_view();
 }
 
+std::string from_code_page(std::string_view text) {
+  std::string result;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      result += c;
+    } else {
+      result += static_cast<char>(0xC0 | (byte >> 6));
+      result += static_cast<char>(0x80 | (byte & 0x3F));
+    }
+  }
+  return result;
+}
+
 std::int16_t numeric_prefix(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
   std::int16_t value = 0;

@@ -46,7 +46,7 @@ void MainWindow::copy_rows() {
   for (int r = range.first_row; r <= range.last_row; ++r)
     for (int c = 0; c < DisplayGrid::size; ++c)
       text += MSF.text(r, c) + (c < DisplayGrid::size - 1 ? "\t" : "\r\n");
-  desktop().set_clipboard(text);
+  desktop().set_clipboard(from_code_page(text));
 }
 
 void MainWindow::select_all() {

@@ -5,10 +5,12 @@
 
 #include <algorithm>
 
+#include "files/external_solver.hpp"
 #include "files/puzzle_file.hpp"
 #include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/view.hpp"
+#include "puzzles/export.hpp"
 #include "puzzles/library.hpp"
 #include "ui/main_window.hpp"
 
@@ -127,20 +129,37 @@ void MainWindow::save() {
   Save_Grille(name);
 }
 
-// The seams of the commands that are still to come.
+void MainWindow::export_entry() { guarded(generate_sudoku); }
 
-void MainWindow::load() {}
+void MainWindow::load() {
+  const std::string name = desktop().open_dialog(file_filter);
+  if (name.empty()) return;
+  set_title(globals.TitreFenetre);
+  desktop().set_pointer(Pointer::hourglass);
+  set_visible(Control::Command8, true);
+  ouvrir(name);
+  globals.CouleurDonnees = colour::from_file;
+  CreateGrille();
+  solve_opened();
+}
 
-void MainWindow::solve() { Resoudre(); }
+void MainWindow::solve_opened() {
+  globals.ResolutionSilencieuse = true;
+  Bouton_GO_Click();
+  globals.ResolutionSilencieuse = false;
+  active();
+  MSF.refresh();
+  MajCandidats();
+  trace_ligne();
+  desktop().set_pointer(Pointer::arrow);
+}
+
+void MainWindow::solve() { Bouton_GO_Click(); }
 
 void MainWindow::hint() {
   globals.ModePasAPas = true;
   suggestion();
 }
-
-void MainWindow::about() {}
-
-void MainWindow::help() {}
 
 void MainWindow::MajCandidats() {
   init_candidats();
@@ -148,5 +167,11 @@ void MainWindow::MajCandidats() {
   affiche_candidats();
   MSR.refresh();
 }
+
+// The seams of the two commands that are still to come.
+
+void MainWindow::about() {}
+
+void MainWindow::help() {}
 
 }  // namespace sdk

@@ -26,8 +26,16 @@ std::filesystem::path unused_name(const std::filesystem::path& folder) {
   }
 }
 
-/// Saves the displayed grid beside earlier ones and says where, or why not.
+bool is_empty(const DisplayGrid& grid) {
+  for (int r = 0; r < DisplayGrid::size; ++r)
+    for (int c = 0; c < DisplayGrid::size; ++c)
+      if (grid.is_filled(r, c)) return false;
+  return true;
+}
+
+/// Saves the displayed grid, unless it is empty, beside earlier ones and says where, or why not.
 std::string rescue_grid(Desktop& desktop, const RuntimeError& error) {
+  if (is_empty(sudoku().MSF)) return notice(Notice::fatal, globals.Langue, error.what());
   try {
     const auto path = unused_name(desktop.data_folder());
     Save_Grille(path.string());

@@ -5,14 +5,15 @@
 
 #include <utility>
 
+#include "files/puzzle_file.hpp"
 #include "ui/version.hpp"
 
 namespace sdk {
 
 MainWindow::MainWindow(Desktop& desktop) : Window(desktop) {}
 
-void MainWindow::start() {
-  guarded([this] {
+void MainWindow::start(const std::string& command_line) {
+  guarded([&] {
     globals = {};
     globals.TitreFenetre = std::string("SuDoKu ") + program_version;
     langage(globals.Langue);
@@ -25,8 +26,23 @@ void MainWindow::start() {
     prepare_grid(MSR);
     set_visible(Control::MSR, false);
     set_visible(Control::rect2, false);
-    new_puzzle();
+    if (command_line.empty())
+      new_puzzle();
+    else
+      open_at_start(command_line);
   });
+}
+
+void MainWindow::open_at_start(const std::string& command_line) {
+  ouvrir(command_line);
+  globals.CouleurDonnees = colour::from_file;
+  active();
+  CreateGrille();
+  opened_at_start_ = true;
+}
+
+void MainWindow::finish_start() {
+  if (opened_at_start_) guarded([this] { solve_opened(); });
 }
 
 void MainWindow::prepare_grid(DisplayGrid& grid) {

@@ -64,8 +64,12 @@ class MainWindow final : public Window {
  public:
   explicit MainWindow(Desktop& desktop);
 
-  /// Start-up; every global takes its start value. At most one call.
-  void start();
+  /// Start-up; every global takes its start value. A command line that is not empty names the
+  /// puzzle file to open, relative to the current folder; else a new puzzle is made. At most one
+  /// call, before the window is shown.
+  void start(const std::string& command_line);
+  /// The rest of start-up, once the window is on screen: the opened puzzle is solved silently.
+  void finish_start();
 
   /// A press of a button; other controls do nothing.
   void click(Control button);
@@ -73,6 +77,8 @@ class MainWindow final : public Window {
   void check(Control box, bool on);
   /// An item of the level list (0..4) is chosen; none, or one that is not there, reads as level 0.
   void choose_level(std::optional<int> item);
+  /// Appends the puzzle in hand to "Grilles.txt" in the current folder; no control does it.
+  void export_entry();
   /// A key pressed in the window, before the control that has the focus gets it.
   void preview_key(int code);
   /// A key pressed in `MSF`.
@@ -119,6 +125,7 @@ class MainWindow final : public Window {
   void set_tooltip(Control control, std::string tooltip);
   void inactive();
   void prepare_grid(DisplayGrid& grid);
+  void open_at_start(const std::string& command_line);
   void show_candidates(bool shown);
   bool confirm_quit();
 
@@ -128,6 +135,7 @@ class MainWindow final : public Window {
   void print();
   void save();
   void load();
+  void solve_opened();
   void hint();
   void solve();
   void about();
@@ -146,6 +154,7 @@ class MainWindow final : public Window {
   Control focus_ = Control::MSF;
   Layout layout_ = sdk::layout(false);
   std::vector<LineDrawing> lines_;
+  bool opened_at_start_ = false;
   WindowListener* listener_ = nullptr;
 };
 

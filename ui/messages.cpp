@@ -57,7 +57,8 @@ constexpr std::array<Text, 35> messages{{
 }};
 
 /// In the order of Notice.
-constexpr std::array<Text, 8> notices{{
+constexpr std::array<Text, 9> notices{{
+    {"SuDoKu doit s'arrêter (%1)", "SuDoKu has to stop (%1)"},
     {"SuDoKu doit s'arrêter (%1). La grille est sauvée dans %2",
      "SuDoKu has to stop (%1). The grid was saved in %2"},
     {"SuDoKu doit s'arrêter (%1). La grille n'a pas pu être sauvée (%2)",

@@ -16,6 +16,7 @@ std::array<std::string, 35> messages_in(std::string_view language);
 
 /// What the program says beside that table. `%1` and `%2` stand for what is filled in.
 enum class Notice {
+  fatal,            ///< %1 what failed and why; there was no grid to save
   fatal_saved,      ///< %1 what failed and why, %2 the file the grid was saved in
   fatal_not_saved,  ///< %1 what failed and why, %2 why the grid could not be saved
   cell,             ///< accessible name of a cell: %1 row, %2 column, 1-based

@@ -43,7 +43,7 @@ TEST_F(StartUp, GivesTheFlagsTheirStartValuesAfterAnEarlierWindowToo) {
   globals.GrilleOk = globals.ResolutionSilencieuse = true;
   FakeDesktop desktop;
   MainWindow second(desktop);
-  second.start();
+  second.start("");
   EXPECT_EQ(globals.NiveauCourant, 1);
   EXPECT_TRUE(globals.ProtegeGrille);
   EXPECT_EQ(globals.Langue, "Fr");
@@ -78,7 +78,7 @@ TEST_F(StartUp, HidesTheButtonsThatNeedAPuzzleUntilThereIsOne) {
     EXPECT_TRUE(second.visible(Control::Command1));
     EXPECT_TRUE(second.visible(Control::Command6));
   };
-  second.start();
+  second.start("");
   EXPECT_EQ(picks, 1);
 }
 
@@ -116,7 +116,7 @@ TEST_F(StartUp, FillsTheCandidatesEvenThoughTheyAreHidden) {
 TEST_F(StartUp, AsksTheMachineForNothingButASeedAndTheArrow) {
   FakeDesktop desktop;
   MainWindow second(desktop);
-  second.start();
+  second.start("");
   EXPECT_EQ(desktop.next_seed, 2u);
   EXPECT_EQ(desktop.pointers, std::vector{Pointer::arrow});
   EXPECT_TRUE(desktop.boxes.empty());

@@ -37,11 +37,13 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
              << box.text << "\" " << (box.buttons == Buttons::ok ? "ok" : "yes,no");
 }
 
-FakeDesktop::FakeDesktop() : folder_(new_folder()) {}
+FakeDesktop::FakeDesktop() : scratch_(new_folder()) {
+  for (const char* name : {"data", "program", "tmp"}) fs::create_directory(scratch_ / name);
+}
 
 FakeDesktop::~FakeDesktop() {
   std::error_code ignored;
-  fs::remove_all(folder_, ignored);
+  fs::remove_all(scratch_, ignored);
 }
 
 void FakeDesktop::forget() {
@@ -55,7 +57,7 @@ void FakeDesktop::forget() {
 }
 
 std::string FakeDesktop::rescued_file() const {
-  const fs::directory_iterator first(folder_);
+  const fs::directory_iterator first(scratch_ / "data");
   if (first == fs::directory_iterator()) throw std::runtime_error("no file was saved");
   return bytes_of(first->path());
 }
@@ -104,7 +106,17 @@ std::uint32_t FakeDesktop::random_seed() {
 
 fs::path FakeDesktop::data_folder() {
   if (!has_data_folder) throw RuntimeError("data folder", "disk is read-only");
-  return folder_;
+  return scratch_ / "data";
+}
+
+std::optional<std::uint32_t> FakeDesktop::exit_code(std::uint32_t id) {
+  const auto known = exit_codes.find(id);
+  return known == exit_codes.end() ? PlatformDesktop::exit_code(id) : known->second;
+}
+
+void FakeDesktop::replace_file(const std::string& file, std::string_view bytes) {
+  if (!save_steps) return PlatformDesktop::replace_file(file, bytes);
+  sdk::replace_file(file, bytes, *save_steps);
 }
 
 void FakeDesktop::report_error(const std::string& line) { errors.push_back(line); }

@@ -11,7 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "grid/desktop.hpp"
+#include "files/platform_desktop.hpp"
+#include "files/safe_write.hpp"
 
 namespace sdk::test {
 
@@ -25,10 +26,10 @@ struct Box {
 
 std::ostream& operator<<(std::ostream& out, const Box& box);
 
-class FakeDesktop : public Desktop {
+class FakeDesktop : public PlatformDesktop {
  public:
   FakeDesktop();
-  /// Removes the data folder.
+  /// Removes its folders.
   ~FakeDesktop() override;
   FakeDesktop(const FakeDesktop&) = delete;
   FakeDesktop& operator=(const FakeDesktop&) = delete;
@@ -42,6 +43,8 @@ class FakeDesktop : public Desktop {
   bool has_data_folder = true;
   std::uint32_t next_seed = 1;  ///< grows by one at each pick
   std::function<void()> at_pick = [] {};
+  SaveSteps* save_steps = nullptr;                    ///< of the next saves; null: the real ones
+  std::map<std::uint32_t, std::uint32_t> exit_codes;  ///< of made-up processes
   /// What happens at the n-th (from 1) call of let_events_run since the last forget().
   std::map<long, std::function<void()>> at_step;
 
@@ -69,13 +72,18 @@ class FakeDesktop : public Desktop {
   PageSize printer_page() override;
   void print(const Page& page) override;
   std::uint32_t random_seed() override;
+  /// Folders of its own, empty at first.
+  std::filesystem::path program_folder() override { return scratch_ / "program"; }
+  std::string temporary_folder() override { return (scratch_ / "tmp").string(); }
+  std::optional<std::uint32_t> exit_code(std::uint32_t id) override;
+  void replace_file(const std::string& file, std::string_view bytes) override;
   std::filesystem::path data_folder() override;
   void report_error(const std::string& line) override;
 
  private:
   std::string next_file(const std::string& filter);
 
-  std::filesystem::path folder_;
+  std::filesystem::path scratch_;
 };
 
 /// The bytes of a file.

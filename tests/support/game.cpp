@@ -210,7 +210,7 @@ void GridRecorder::appearance_changed() {
 void GridRecorder::refresh() { repaints_.push_back("refresh " + name_); }
 
 Game::Game() {
-  window.start();
+  window.start("");
   window.set_listener(this);
   forget();
 }

@@ -38,6 +38,7 @@ Scratch::Scratch() : root_(fresh_folder()), start_folder_(fs::current_path()) {
   for (const Placeholder& p : placeholders) fs::create_directories(root_ / p.folder);
   setenv("XDG_DATA_HOME", (root_ / "share").c_str(), 1);
   setenv("HOME", root_.c_str(), 1);
+  setenv("tmp", (root_ / "tmp").c_str(), 1);
   fs::current_path(root_ / "work");
 }
 

@@ -12,7 +12,7 @@ namespace sdk::test {
 
 Play::Play() {
   desktop.set_window(&frame);
-  guard.run([this] { window.start(); });
+  guard.run([this] { window.start(""); });
   frame.centre_on_screen();
   frame.show();
   QApplication::setActiveWindow(&frame);

@@ -4,10 +4,10 @@
 #include "tools/script/commands.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 #include <string>
 
+#include "files/platform.hpp"
 #include "tools/script/control_names.hpp"
 #include "tools/script/keyboard.hpp"
 #include "tools/script/script.hpp"
@@ -44,7 +44,7 @@ Action program(Script& script, Arguments& arguments) {
 
 Action tmp(Script&, Arguments& arguments) {
   const std::string folder = arguments.rest("DIR");
-  return [folder] { setenv("tmp", folder.c_str(), 1); };
+  return [folder] { platform::set_environment("tmp", folder); };
 }
 
 Action click(Script& script, Arguments& arguments) {
@@ -107,6 +107,9 @@ Action answer(Script& script, Arguments& arguments) {
 
 Action at(Script& script, Arguments& arguments) {
   const long step = arguments.number("N", 1, std::numeric_limits<int>::max());
+  const Command* command = command_named(arguments.next());
+  if (command && command->role == Command::Role::start)
+    throw ScriptError("a search cannot start the program");
   const Action action = script.understand(arguments.rest("COMMAND"));
   return [&script, step, action] {
     script.schedule().add(step, [&script, action] { script.attempt(action); });
@@ -125,6 +128,15 @@ Action close(Script& script, Arguments& arguments) {
   return [&script, mode] {
     if (script.window().close(mode)) throw ProgramEnd{0};
   };
+}
+
+Action start(Script& script, Arguments& arguments) {
+  const std::string command_line = arguments.empty() ? "" : arguments.rest("ARGUMENTS");
+  return [&script, command_line] { script.start(command_line); };
+}
+
+Action export_entry(Script& script, Arguments&) {
+  return [&script] { script.window().export_entry(); };
 }
 
 constexpr auto setting = Command::Role::setting;
@@ -155,6 +167,10 @@ constexpr Command table[] = {
      "search ends before",
      event, at},
     {"close", "window|taskmanager|session", "ask the window to close", event, close},
+    {"export", "", "append the puzzle in hand to Grilles.txt", event, export_entry},
+    {"start", "[ARGUMENTS]",
+     "a fresh start of the program with that command line; also after it has ended",
+     Command::Role::start, start},
     {"show", "WHAT", "print a part of the state (below)", event, show},
 };
 

@@ -14,8 +14,9 @@ namespace sdk {
 class Script;
 
 struct Command {
-  /// A setting of the machine does not start the program, everything else does.
-  enum class Role { setting, event };
+  /// An event starts the program when it does not run, a setting of the machine does not; a start
+  /// always does.
+  enum class Role { setting, event, start };
 
   std::string_view name;
   std::string_view arguments;  ///< as `--help` shows them

@@ -38,16 +38,21 @@ void Script::run(std::string_view line) {
 }
 
 void Script::run_command(std::string_view text) {
-  if (ended_) throw ScriptError("the program has ended");
   const Command* command = command_named(Arguments(text).next());
+  const bool is_start = command && command->role == Command::Role::start;
+  if (ended_ && !is_start) throw ScriptError("the program has ended");
   const bool is_setting = command && command->role == Command::Role::setting;
-  if (!running() && !is_setting) start();
+  if (!running() && !is_setting && !is_start) start("");
   understand(text)();
 }
 
-void Script::start() {
+void Script::start(const std::string& command_line) {
+  std::filesystem::current_path(first_folder_);
+  ended_ = false;
+  window_.reset();
   window_ = std::make_unique<MainWindow>(desktop_);
-  window_->start();
+  window_->start(command_line);
+  window_->finish_start();
 }
 
 Action Script::understand(std::string_view text) {

@@ -34,6 +34,9 @@ class Script {
 
   /// Understands a command without doing it. Throws ScriptError.
   Action understand(std::string_view command);
+  /// Starts the program afresh with a command line, in the folder that the script began in; one
+  /// that is running is forgotten.
+  void start(const std::string& command_line);
   /// Does it; prints the error when it cannot be done.
   void attempt(const Action& action);
   /// The program's window; it exists while the program runs.
@@ -43,13 +46,13 @@ class Script {
   std::ostream& out() { return out_; }
 
  private:
-  void start();
   void run_command(std::string_view command);
 
   std::ostream& out_;
   ScriptDesktop desktop_;
   Schedule schedule_;
   std::unique_ptr<MainWindow> window_;
+  std::filesystem::path first_folder_ = std::filesystem::current_path();
   bool ended_ = false, faulty_ = false;
 };
 

@@ -3,7 +3,6 @@
 
 #include "tools/script/script_desktop.hpp"
 
-#include <chrono>
 #include <cstdlib>
 #include <ostream>
 
@@ -120,10 +119,7 @@ void ScriptDesktop::print(const Page& page) {
 }
 
 std::uint32_t ScriptDesktop::random_seed() {
-  if (settings.seed) return *settings.seed;
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return static_cast<std::uint32_t>(
-      std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+  return settings.seed ? *settings.seed : PlatformDesktop::random_seed();
 }
 
 std::filesystem::path ScriptDesktop::data_folder() {
@@ -132,6 +128,10 @@ std::filesystem::path ScriptDesktop::data_folder() {
   std::filesystem::create_directories(folder, failure);
   if (failure) throw RuntimeError(folder.string(), failure.message());
   return folder;
+}
+
+std::filesystem::path ScriptDesktop::program_folder() {
+  return settings.program.empty() ? PlatformDesktop::program_folder() : settings.program;
 }
 
 void ScriptDesktop::report_error(const std::string& line) { errors_ << line << std::endl; }

@@ -10,7 +10,7 @@
 #include <iosfwd>
 #include <optional>
 
-#include "grid/desktop.hpp"
+#include "files/platform_desktop.hpp"
 
 namespace sdk {
 
@@ -22,7 +22,7 @@ struct MachineSettings {
   std::filesystem::path program;  ///< the program's own folder; empty: the real one
 };
 
-class ScriptDesktop final : public Desktop {
+class ScriptDesktop final : public PlatformDesktop {
  public:
   /// Both streams must outlive the desktop.
   ScriptDesktop(std::ostream& out, std::ostream& errors) : out_(out), errors_(errors) {}
@@ -51,6 +51,7 @@ class ScriptDesktop final : public Desktop {
   void print(const Page& page) override;
   std::uint32_t random_seed() override;
   std::filesystem::path data_folder() override;
+  std::filesystem::path program_folder() override;
   void report_error(const std::string& line) override;
 
  private:

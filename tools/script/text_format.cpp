@@ -35,20 +35,6 @@ std::string in_quotes(std::string_view text) {
   return result + '"';
 }
 
-std::string from_code_page(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80) {
-      result += c;
-    } else {
-      result += static_cast<char>(0xC0 | (byte >> 6));
-      result += static_cast<char>(0x80 | (byte & 0x3F));
-    }
-  }
-  return result;
-}
-
 std::string colour_text(Colour c) {
   char text[7];
   std::snprintf(text, sizeof text, "%02X%02X%02X", colour::red_of(c), colour::green_of(c),

@@ -15,9 +15,6 @@ namespace sdk {
 /// `text` between double quotes, with \t \r \n \" \\ for what would break the line or the quotes.
 std::string in_quotes(std::string_view text);
 
-/// A text of the single-byte code page (Latin-1) as UTF-8.
-std::string from_code_page(std::string_view text);
-
 /// Six upper-case hexadecimal digits RRGGBB.
 std::string colour_text(Colour colour);
 

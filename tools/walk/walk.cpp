@@ -131,7 +131,7 @@ std::string grid_line(std::string_view puzzle) {
 
 }  // namespace
 
-Walker::Walker() { window_.start(); }
+Walker::Walker() { window_.start(""); }
 
 void Walker::play(std::string_view puzzle, SolverObserver& observer) {
   for (int row = 0; row < 9; ++row)

@@ -8,14 +8,14 @@
 #include <string>
 #include <string_view>
 
-#include "grid/desktop.hpp"
+#include "files/platform_desktop.hpp"
 #include "pas_a_pas/observer.hpp"
 #include "ui/main_window.hpp"
 
 namespace sdk {
 
 /// Accepts every offer and has nothing else of a machine.
-class YesDesktop final : public Desktop {
+class YesDesktop final : public PlatformDesktop {
  public:
   Answer message_box(const std::string& text, Icon icon, Buttons buttons,
                      const std::string& title) override;
@@ -28,7 +28,6 @@ class YesDesktop final : public Desktop {
   void print(const Page&) override {}
   std::uint32_t random_seed() override { return 0; }
   std::filesystem::path data_folder() override;
-  void report_error(const std::string&) override {}
 };
 
 /// Empty when the line is a puzzle: 81 characters, 1-9 a digit, '.' or '0' an empty cell. Else what

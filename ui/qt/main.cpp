@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
+#include <QTimer>
 
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
@@ -17,10 +18,12 @@ int main(int argc, char** argv) {
   sdk::MainWindow window(desktop);
   sdk::MainFrame frame(window, guard);
   desktop.set_window(&frame);
-  guard.run([&] { window.start(); });
+  const QString command_line = QApplication::arguments().mid(1).join(' ');
+  guard.run([&] { window.start(command_line.toStdString()); });
   if (!guard.status()) {
     frame.centre_on_screen();
     frame.show();
+    QTimer::singleShot(0, &frame, [&] { guard.run([&] { window.finish_start(); }); });
     QApplication::exec();
   }
   return guard.status().value_or(0);

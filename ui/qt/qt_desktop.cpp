@@ -9,8 +9,6 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QStandardPaths>
-#include <chrono>
-#include <iostream>
 
 #include "grid/errors.hpp"
 #include "ui/qt/printing_service.hpp"
@@ -101,11 +99,6 @@ PageSize QtDesktop::printer_page() { return default_printer_page(); }
 
 void QtDesktop::print(const Page& page) { print_on_default_printer(page); }
 
-std::uint32_t QtDesktop::random_seed() {
-  const auto ticks = std::chrono::system_clock::now().time_since_epoch().count();
-  return static_cast<std::uint32_t>(ticks ^ (ticks >> 32));
-}
-
 std::filesystem::path QtDesktop::data_folder() {
   const std::filesystem::path folder =
       QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
@@ -114,7 +107,5 @@ std::filesystem::path QtDesktop::data_folder() {
   if (error) throw RuntimeError(folder.string(), error.message());
   return folder;
 }
-
-void QtDesktop::report_error(const std::string& line) { std::cerr << line << std::endl; }
 
 }  // namespace sdk

@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "grid/desktop.hpp"
+#include "files/platform_desktop.hpp"
 #include "ui/qt/event_pump.hpp"
 #include "ui/qt/program_guard.hpp"
 #include "ui/qt/qt_language.hpp"
@@ -17,7 +17,7 @@ class QFileDialog;
 namespace sdk {
 
 /// Every call that runs an event loop throws ProgramEnd when the player ended the program in it.
-class QtDesktop final : public Desktop {
+class QtDesktop final : public PlatformDesktop {
  public:
   /// `guard` must outlive the desktop.
   explicit QtDesktop(const ProgramGuard& guard) : guard_(guard) {}
@@ -34,9 +34,7 @@ class QtDesktop final : public Desktop {
   void set_clipboard(const std::string& text) override;
   PageSize printer_page() override;
   void print(const Page& page) override;
-  std::uint32_t random_seed() override;
   std::filesystem::path data_folder() override;
-  void report_error(const std::string& line) override;
 
  private:
   std::string chosen_file(QFileDialog& dialog, const std::string& filter);

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// What differs from one operating system to the next: processes, folders and the environment.
+/// One source file a platform implements it. Failures are std::system_error unless told otherwise.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace sdk::platform {
+
+/// The folder of the running program's real file, links followed.
+std::filesystem::path program_folder();
+
+/// Makes a new folder that only the player can enter, below the system's temporary folder.
+std::filesystem::path make_private_folder();
+
+void set_environment(const std::string& name, const std::string& value);
+
+/// The command line that runs the external solver of the current folder with its standard output
+/// in the file `output`, whatever characters the path holds.
+std::string solver_command(const std::filesystem::path& output);
+
+/// Starts a command line through the system's command interpreter, without waiting and without an
+/// input to read; the result identifies the process and is not 0.
+std::uint32_t start_process(const std::string& command_line);
+
+/// The exit code of a process that start_process began; 259 while it runs. A process that has ended
+/// is reported once and is forgotten then; nothing for a process that is not known.
+std::optional<std::uint32_t> exit_code(std::uint32_t id);
+
+/// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
+void write_new_file(const std::filesystem::path& file, std::string_view bytes);
+
+/// Gives `to` the owner, group and rights of `from`.
+void copy_access(const std::filesystem::path& from, const std::filesystem::path& to);
+
+}  // namespace sdk::platform
