@@ -50,9 +50,6 @@ std::string name_for_player(const MainWindow& window, Control button) {
 CommandBar::CommandBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this)) {
   title_->setObjectName("Label3");
   title_->setTextFormat(Qt::PlainText);
-  QFont font = title_->font();
-  font.setPointSizeF(font.pointSizeF() * 1.2);
-  title_->setFont(font);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->addWidget(title_);

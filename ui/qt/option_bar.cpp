@@ -52,12 +52,6 @@ QLabel* make_label(const char* name, QWidget* parent) {
   return label;
 }
 
-void scale_font(QWidget& widget, double factor) {
-  QFont font = widget.font();
-  font.setPointSizeF(font.pointSizeF() * factor);
-  widget.setFont(font);
-}
-
 }  // namespace
 
 // The order in which the controls are made is the order of Tab.
@@ -67,7 +61,6 @@ OptionBar::OptionBar(QWidget* parent) : QWidget(parent) {
   rows->addLayout(make_boxes());
   rows->addLayout(make_level_row());
   hint_ = make_label("Astuce", this);
-  scale_font(*hint_, 0.9);
   rows->addWidget(hint_);
   take_colours();
 }
