@@ -64,6 +64,7 @@ char digit_at(std::string_view answer, int k) {
 
 void take_solution(std::string_view answer) {
   globals.GrilleOk = true;
+  ++sudoku().grid_fills;
   sudoku().ChaineSolution.clear();
   for (int i = 1; i <= 9; ++i)
     for (int j = 1; j <= 9; ++j) {

@@ -24,7 +24,7 @@ class Search {
     do {
       w_.desktop().let_events_run();
       if (ended_elsewhere()) return;
-      if (reads_ != w_.reads) recount();
+      if (fills_ != w_.grid_fills) recount();
       step();
     } while (w_.NumCase != 82 && w_.NumCase >= 1 && !globals.ArretDemande);
   }
@@ -36,7 +36,7 @@ class Search {
   bool ended_elsewhere() const { return w_.Ligne >= 10 || w_.Ligne < 1 || w_.Colonne < 1; }
 
   void recount() {
-    reads_ = w_.reads;
+    fills_ = w_.grid_fills;
     counts_.count(w_.Grille);
   }
 
@@ -88,7 +88,7 @@ class Search {
   Window& w_;
   UnitCounts counts_;
   Direction direction_ = Direction::forward;
-  unsigned reads_ = 0;
+  unsigned fills_ = 0;
 };
 
 void set_focus_marks(DisplayGrid& grid, bool on) {

@@ -41,14 +41,17 @@ Bool16 Window::Valide() const {
   return !clashes_in_lines(Grille, Ligne, Colonne) && !clashes_in_box(Grille, Ligne, Colonne);
 }
 
+bool Window::clashes(int row, int column) {
+  Ligne = static_cast<std::int16_t>(row);
+  Colonne = static_cast<std::int16_t>(column);
+  return !Valide();
+}
+
 void Window::verify_valide() {
   GrilleValide = true;
   for (int r = 1; r <= 9; ++r)
     for (int c = 1; c <= 9; ++c) {
-      if (Grille(r, c) == 0) continue;
-      Ligne = r;
-      Colonne = c;
-      if (Valide()) continue;
+      if (Grille(r, c) == 0 || !clashes(r, c)) continue;
       GrilleValide = false;
       desktop_.set_pointer(Pointer::arrow);
     }
@@ -56,17 +59,14 @@ void Window::verify_valide() {
 
 void Window::Lire_Grille_Initiale(std::int16_t row0, std::int16_t column0) {
   HiddenWhileWorking hidden(MSF);
-  ++reads;
+  ++grid_fills;
   for (int r = 1; r <= 9; ++r)
     for (int c = 1; c <= 9; ++c)
       Grille(r, c) = GrilleInitiale(r, c) = numeric_prefix(MSF.text(r - 1, c - 1));
   active();
   for (int r = 1; r <= 9; ++r)
     for (int c = 1; c <= 9; ++c) {
-      if (Grille(r, c) == 0) continue;
-      Ligne = r;
-      Colonne = c;
-      if (Valide()) continue;
+      if (Grille(r, c) == 0 || !clashes(r, c)) continue;
       MSF.make_current(row0, column0);
       MSF.set_text_colour(colour::red);
       globals.GrilleOk = false;

@@ -42,7 +42,7 @@ class Window {
   Bool16 VerifAuVol;                    ///< typed digits are compared with the solution
   Bool16 GrilleValide;                  ///< what verify_valide found
   int searches_running = 0;             ///< nested searches; above 0 the grid takes no digits
-  unsigned reads = 0;                   ///< how often `Grille` was filled from the display
+  unsigned grid_fills = 0;              ///< how often `Grille` was filled by other than a search
 
   /// Sets `Ligne` and `Colonne` from `NumCase`.
   void Extraire_Ligne_Colonne();
@@ -88,6 +88,9 @@ class Window {
   virtual void set_title(std::string title) = 0;
 
  private:
+  /// Makes (row, column) the cell under test and tells whether its value breaks a rule.
+  bool clashes(int row, int column);
+
   Desktop& desktop_;
 };
 

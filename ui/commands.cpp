@@ -68,19 +68,8 @@ void MainWindow::new_puzzle() {
     HiddenWhileWorking hidden(MSF);
     globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
     Nouvelle_Grille(resGrille, Masque);
-    ChaineGrille.clear();
-    ChaineSolution.clear();
     set_title(globals.TitreFenetre);
-    for (int r = 1; r <= 9; ++r)
-      for (int c = 1; c <= 9; ++c) {
-        const std::string digit = std::to_string(resGrille(r, c));
-        MSF.make_current(r - 1, c - 1);
-        MSF.set_text(Masque(r, c) ? digit : " ");
-        MSF.set_back_colour(Masque(r, c) ? globals.CouleurDonnees : colour::white);
-        MSF.set_text_colour(colour::black);
-        ChaineSolution += digit;
-        ChaineGrille += MSF.current().text;
-      }
+    write_puzzle();
     active();
   }
   MSF.refresh();
@@ -88,6 +77,21 @@ void MainWindow::new_puzzle() {
   desktop().set_pointer(Pointer::arrow);
   MajCandidats();
   trace_ligne();
+}
+
+void MainWindow::write_puzzle() {
+  ChaineGrille.clear();
+  ChaineSolution.clear();
+  for (int r = 1; r <= 9; ++r)
+    for (int c = 1; c <= 9; ++c) {
+      const std::string digit = std::to_string(resGrille(r, c));
+      MSF.make_current(r - 1, c - 1);
+      MSF.set_text(Masque(r, c) ? digit : " ");
+      MSF.set_back_colour(Masque(r, c) ? globals.CouleurDonnees : colour::white);
+      MSF.set_text_colour(colour::black);
+      ChaineSolution += digit;
+      ChaineGrille += MSF.current().text;
+    }
 }
 
 void MainWindow::clear() {

@@ -130,6 +130,7 @@ class MainWindow final : public Window {
   bool confirm_quit();
 
   void new_puzzle();
+  void write_puzzle();
   void clear();
   void quit();
   void print();

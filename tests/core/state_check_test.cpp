@@ -62,8 +62,6 @@ const Damage damages[] = {
      "ChaineSolution is too long"},
     {"StrangeSolution", [](MainWindow& w) { w.ChaineSolution = "12x"; },
      "ChaineSolution holds more than digits"},
-    {"LongChain", [](MainWindow& w) { w.ChaineGrille = std::string(82, ' '); },
-     "ChaineGrille is too long"},
     {"Level", [](MainWindow&) { globals.NiveauCourant = 5; }, "NiveauCourant out of range"},
     {"NegativeLevel", [](MainWindow&) { globals.NiveauCourant = -1; },
      "NiveauCourant out of range"},
