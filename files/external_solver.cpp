@@ -92,7 +92,7 @@ void show_answer() {
 
 void solve() {
   fs::current_path(sudoku().desktop().program_folder());
-  if (!fs::exists("zolv.exe")) return sudoku().Resoudre();
+  if (!fs::is_regular_file("zolv.exe")) return sudoku().Resoudre();
   sudoku().Lire_Grille_Initiale(0, 0);
   sauve_sudo();
   run_solver();

@@ -36,6 +36,9 @@ std::optional<std::uint32_t> exit_code(std::uint32_t id);
 /// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
 void write_new_file(const std::filesystem::path& file, std::string_view bytes);
 
+/// Fails for a file that the player may not write into.
+void require_writable(const std::filesystem::path& file);
+
 /// Gives `to` the owner, group and rights of `from`.
 void copy_access(const std::filesystem::path& from, const std::filesystem::path& to);
 

@@ -78,8 +78,8 @@ namespace {
 /// A file descriptor that closes itself.
 class Descriptor {
  public:
-  explicit Descriptor(const std::filesystem::path& file)
-      : fd_(open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
+  Descriptor(const std::filesystem::path& file, int flags)
+      : fd_(open(file.c_str(), O_WRONLY | O_CLOEXEC | flags, 0666)) {
     if (fd_ < 0) fail(errno, file.string());
   }
   ~Descriptor() { close(fd_); }
@@ -104,10 +104,12 @@ class Descriptor {
 }  // namespace
 
 void write_new_file(const std::filesystem::path& file, std::string_view bytes) {
-  Descriptor descriptor(file);
+  Descriptor descriptor(file, O_CREAT | O_EXCL);
   descriptor.write_all(bytes);
   descriptor.sync();
 }
+
+void require_writable(const std::filesystem::path& file) { Descriptor(file, 0); }
 
 void copy_access(const std::filesystem::path& from, const std::filesystem::path& to) {
   struct stat before, after;

@@ -39,15 +39,16 @@ fs::path real_file(fs::path file) {
   return file;
 }
 
+/// Devices do, and files that have other names.
 bool must_stay_itself(const fs::path& file) {
-  return fs::exists(file) && (!fs::is_regular_file(file) || fs::hard_link_count(file) > 1);
+  return !fs::is_regular_file(file) || fs::hard_link_count(file) > 1;
 }
 
+/// Short, so that it is no longer than a folder takes even where the file's own name is.
 fs::path unused_neighbour(const fs::path& file) {
   for (int n = 1;; ++n) {
-    fs::path neighbour = file;
-    neighbour += "." + std::to_string(n) + ".new";
-    if (!fs::exists(neighbour)) return neighbour;
+    const fs::path neighbour = file.parent_path() / ("SuDoKu-" + std::to_string(n) + ".new");
+    if (!fs::exists(fs::symlink_status(neighbour))) return neighbour;
   }
 }
 
@@ -77,13 +78,43 @@ void replace_by_neighbour(const fs::path& file, std::string_view bytes, SaveStep
   steps.rename(neighbour.path, file);
 }
 
+/// What a write of `length` bytes would take from a file.
+std::string beginning(const fs::path& file, std::size_t length) {
+  std::string bytes(length, '\0');
+  std::ifstream stream(file, std::ios::binary);
+  stream.read(bytes.data(), static_cast<std::streamsize>(length));
+  bytes.resize(static_cast<std::size_t>(stream.gcount()));
+  return bytes;
+}
+
+void put_back(const fs::path& file, const std::string& beginning, std::uintmax_t size) {
+  std::fstream stream(file, std::ios::binary | std::ios::in | std::ios::out);
+  stream << beginning << std::flush;
+  std::error_code ignored;
+  fs::resize_file(file, size, ignored);
+}
+
+void overwrite(const fs::path& file, std::string_view bytes, SaveSteps& steps) {
+  if (!fs::is_regular_file(file)) return steps.write_in_place(file, bytes);
+  const std::string before = beginning(file, bytes.size());
+  const std::uintmax_t size = fs::file_size(file);
+  try {
+    steps.write_in_place(file, bytes);
+  } catch (const std::system_error&) {
+    put_back(file, before, size);
+    throw;
+  }
+}
+
 void write(const fs::path& file, std::string_view bytes, SaveSteps& steps) {
-  if (must_stay_itself(file)) return steps.write_in_place(file, bytes);
+  if (!fs::exists(file)) return replace_by_neighbour(file, bytes, steps);
+  if (must_stay_itself(file)) return overwrite(file, bytes, steps);
+  platform::require_writable(file);
   try {
     replace_by_neighbour(file, bytes, steps);
   } catch (const std::system_error& error) {
-    if (!folder_is_closed(error.code()) || !fs::exists(file)) throw;
-    steps.write_in_place(file, bytes);
+    if (!folder_is_closed(error.code())) throw;
+    overwrite(file, bytes, steps);
   }
 }
 

@@ -50,6 +50,7 @@ void Script::start(const std::string& command_line) {
   std::filesystem::current_path(first_folder_);
   ended_ = false;
   window_.reset();
+  desktop_.forget_pointer();
   window_ = std::make_unique<MainWindow>(desktop_);
   window_->start(command_line);
   window_->finish_start();

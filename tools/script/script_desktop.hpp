@@ -35,6 +35,9 @@ class ScriptDesktop final : public PlatformDesktop {
   void queue_answer(Answer answer) { answers_.push_back(answer); }
   void queue_file(std::string path) { files_.push_back(std::move(path)); }
 
+  /// The pointer is the arrow again, as for a program that has just started.
+  void forget_pointer() { pointer_ = Pointer::arrow; }
+
   Pointer pointer() const { return pointer_; }
   const std::string& clipboard() const { return clipboard_; }
 

@@ -3,13 +3,19 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <iostream>
 
+#include "ui/qt/command_line.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
 
 int main(int argc, char** argv) {
+  if (const auto answer = sdk::answer_without_game({argv + 1, argv + argc})) {
+    std::cout << *answer << std::flush;
+    return std::cout ? 0 : 1;
+  }
   QApplication::setStyle("Fusion");
-  QApplication application(argc, argv);
+  QApplication application(argc, argv);  // takes its own options away
   QApplication::setApplicationName("sudoku");
   QApplication::setDesktopFileName("sudoku");
 
@@ -18,8 +24,7 @@ int main(int argc, char** argv) {
   sdk::MainWindow window(desktop);
   sdk::MainFrame frame(window, guard);
   desktop.set_window(&frame);
-  const QString command_line = QApplication::arguments().mid(1).join(' ');
-  guard.run([&] { window.start(command_line.toStdString()); });
+  guard.run([&] { window.start(sdk::command_line({argv + 1, argv + argc})); });
   if (!guard.status()) {
     frame.centre_on_screen();
     frame.show();
