@@ -184,7 +184,6 @@ class ControlsTest : public QObject {
   void nothing_is_cut_off_in_either_language() {
     for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
       play_->press(key);
-      QCoreApplication::processEvents();  // after the texts the layout
       for (const char* name :
            {"Label3", "Astuce", "Label", "Niveau", "Check1", "Check2", "Check3"}) {
         const QWidget& widget = play_->find(name);
@@ -199,7 +198,7 @@ class ControlsTest : public QObject {
   void the_cells_stay_white_on_a_dark_desktop() {
     QPalette dark(QColor(53, 53, 56), QColor(45, 45, 48));
     QApplication::setPalette(dark);
-    QCoreApplication::processEvents();
+    play_->settle();
     const QImage picture = play_->find("MSF").grab().toImage();
     for (int r = 0; r < 9; ++r)
       for (int c = 0; c < 9; ++c) {

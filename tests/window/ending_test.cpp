@@ -141,7 +141,7 @@ class EndingTest : public QObject {
     });
     BoxAnswer stopped(QMessageBox::Ok);
     play_->run_program([this] { play_->click("Bouton_GO"); });
-    QCoreApplication::processEvents();
+    play_->settle();
     QVERIFY(play_->find("MSF").focusPolicy() & Qt::TabFocus);
     QCOMPARE(play_->frame.focusWidget(), &play_->find("MSF"));
   }

@@ -22,17 +22,21 @@ Play::Play() {
 
 void Play::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(frame.focusWidget(), key, modifiers);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void Play::press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
   QTest::sendKeyEvent(QTest::Click, frame.focusWidget(), key, text, modifiers);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void Play::type(const char* characters) {
   QTest::keyClicks(frame.focusWidget(), characters);
-  QCoreApplication::processEvents();
+  settle();
+}
+
+void Play::settle() {
+  for (int round = 0; round < 2; ++round) QCoreApplication::processEvents();
 }
 
 QPoint Play::cell(int row, int column) const {
@@ -41,14 +45,14 @@ QPoint Play::cell(int row, int column) const {
 
 void Play::click_cell(int row, int column, Qt::KeyboardModifiers modifiers) {
   QTest::mouseClick(find<GridView>("MSF").viewport(), Qt::LeftButton, modifiers, cell(row, column));
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void Play::click(const char* widget) {
   QWidget& target = find(widget);
   // A check box takes clicks on its box and text only.
   QTest::mouseClick(&target, Qt::LeftButton, {}, QPoint(10, target.height() / 2));
-  QCoreApplication::processEvents();
+  settle();
 }
 
 QString Play::text(int row, int column) {
@@ -67,7 +71,7 @@ void Play::draw(std::string_view lines) {
     ++number;
   }
   window.MSF.make_current(0, 0);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 int Play::run_program(const std::function<void()>& actions) {

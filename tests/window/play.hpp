@@ -39,6 +39,8 @@ class Play {
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text);
   /// Each digit or letter in turn.
   void type(const char* characters);
+  /// Lets the window follow the core: first the texts change, then the layout.
+  void settle();
   /// The middle of a cell, rows and columns 1..9.
   QPoint cell(int row, int column) const;
   /// A click on a cell of MSF.

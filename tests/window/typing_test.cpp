@@ -138,7 +138,7 @@ class TypingTest : public QObject {
   void the_view_shows_the_current_cell_and_the_selection_of_the_core() {
     auto& view = play_->find<GridView>("MSF");
     play_->window.MSF.select(2, 3, 4, 5);
-    QCoreApplication::processEvents();
+    play_->settle();
     QCOMPARE(view.currentIndex(), view.model()->index(2, 3));
     QCOMPARE(view.selectionModel()->selectedIndexes().size(), 9);
     QVERIFY(view.selectionModel()->isSelected(view.model()->index(4, 5)));

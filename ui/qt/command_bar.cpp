@@ -73,7 +73,6 @@ QToolButton* CommandBar::make_button(Control control, const char* name, const ch
   button->setIconSize({icon_side, icon_side});
   button->setFixedSize(button_side, button_side);
   button->setAutoRaise(true);
-  button->setFocusPolicy(Qt::TabFocus);
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);

@@ -4,6 +4,7 @@
 #include "ui/qt/line_overlay.hpp"
 
 #include <QPainter>
+#include <QRegion>
 
 #include "ui/qt/pixels.hpp"
 
@@ -24,6 +25,12 @@ QRect area_of(const LineDrawing& line) {
 LineOverlay::LineOverlay(const MainWindow& window, QWidget* parent)
     : QWidget(parent), window_(window) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void LineOverlay::redraw() {
+  QRegion areas;
+  for (const LineDrawing& line : window_.lines()) areas += area_of(line);
+  update(areas);
 }
 
 void LineOverlay::paintEvent(QPaintEvent*) {

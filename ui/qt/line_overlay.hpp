@@ -16,6 +16,9 @@ class LineOverlay : public QWidget {
   /// `window` must outlive the overlay.
   LineOverlay(const MainWindow& window, QWidget* parent);
 
+  /// To be called when the lines were drawn anew. Repaints nothing but them.
+  void redraw();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

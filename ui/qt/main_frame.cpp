@@ -91,7 +91,7 @@ bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
   const int code = key_code(*static_cast<QKeyEvent*>(event)).code;
   if (code != key::f1 && code != key::f2 && code != key::escape) return false;
   guard_.run([&] { window_.preview_key(code); });
-  return code != key::escape;
+  return true;
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {
@@ -110,7 +110,7 @@ void MainFrame::controls_changed() { update_.ask(); }
 
 void MainFrame::layout_changed() { update_.ask(); }
 
-void MainFrame::lines_drawn() { lines_->update(); }
+void MainFrame::lines_drawn() { lines_->redraw(); }
 
 void MainFrame::focus_changed() {
   if (window_.focus() == Control::MSF) msf_->setFocus();
