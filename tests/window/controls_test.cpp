@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QScreen>
 #include <QToolButton>
 
 #include "tests/window/play.hpp"
@@ -120,6 +121,15 @@ class ControlsTest : public QObject {
     QVERIFY(!play_->find("MSR").isVisible());
     QVERIFY(!play_->find("rect2").isVisible());
     QCOMPARE(play_->frame.size(), QSize(669, 678));
+  }
+
+  void the_wide_window_stays_on_the_screen() {
+    const QRect screen = play_->frame.screen()->availableGeometry();
+    play_->frame.move(screen.right() - play_->frame.width(), 0);
+    play_->click("Check2");
+    // The screen of the test is narrower than the window, so the puzzle is what stays in sight.
+    QVERIFY(play_->frame.width() > screen.width());
+    QCOMPARE(play_->frame.x(), screen.left());
   }
 
   void nothing_but_the_grids_moves_when_the_candidates_are_shown() {

@@ -28,6 +28,19 @@ class Disturbances : public QObject {
   }
 };
 
+/// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+};
+
 }  // namespace
 
 class TypingTest : public QObject {
@@ -231,6 +244,31 @@ class TypingTest : public QObject {
     QCOMPARE(play_->window.lines().size(), 4u);
     for (const int x : {255, 256, 257}) QCOMPARE(picture.pixelColor(x, 300), QColor(Qt::black));
     for (const int y : {261, 262, 263}) QCOMPARE(picture.pixelColor(300, y), QColor(Qt::black));
+  }
+
+  void redrawing_the_lines_repaints_the_lines_and_no_button() {
+    const Paints lines(play_->find("lines")), button(play_->find("Command1"));
+    play_->window.redraw_lines();
+    play_->settle();
+    QCOMPARE(lines.count, 1);
+    QCOMPARE(button.count, 0);
+  }
+
+  void the_current_cell_is_marked_and_the_selection_tinted() {
+    const auto edge = [this](int row, int column) {
+      const QImage picture = play_->find("MSF").grab().toImage();
+      return picture.pixelColor(play_->cell(row, column) - QPoint(24, 24));
+    };
+    play_->click_cell(5, 5);
+    play_->press(Qt::Key_Right, Qt::ShiftModifier);
+    const QColor current = edge(5, 6), selected = edge(5, 5), other = edge(5, 4);
+    QCOMPARE(other, QColor(Qt::white));
+    QVERIFY(current.lightness() < 160);
+    QVERIFY(selected != other && selected.lightness() > 200);
+    play_->window.MSF.set_marks_current(false);
+    play_->settle();
+    QCOMPARE(edge(5, 6), other);
+    QCOMPARE(edge(5, 5), other);
   }
 
  private:

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <algorithm>
 
 #include "ui/messages.hpp"
 #include "ui/qt/cell_painter.hpp"
@@ -48,6 +49,7 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       lines_(new LineOverlay(window, this)),
       update_(*this, [this] { show_state(); }) {
   setObjectName("sudoku");
+  lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
   watch_application();
@@ -158,8 +160,9 @@ void MainFrame::place_widgets() {
 
 void MainFrame::keep_on_screen() {
   if (!isVisible()) return;
-  const int beyond = frameGeometry().right() - screen()->availableGeometry().right();
-  if (beyond > 0) move(pos() - QPoint(beyond, 0));
+  const QRect available = screen()->availableGeometry();
+  const int beyond = frameGeometry().right() - available.right();
+  if (beyond > 0) move(std::max(available.left(), x() - beyond), y());
 }
 
 void MainFrame::centre_on_screen() {
