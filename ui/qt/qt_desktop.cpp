@@ -37,6 +37,14 @@ QString name_filter(const std::string& filter) {
   return parts.value(0) + " (" + parts.value(1) + ")";
 }
 
+/// Puts a box over the upper edge of its window, so that it hides no cell that it speaks of.
+void place(QMessageBox& box, const QWidget* window) {
+  if (!window) return;
+  box.adjustSize();
+  const QRect frame = window->frameGeometry();
+  box.move(frame.center().x() - box.width() / 2, frame.top());
+}
+
 }  // namespace
 
 Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
@@ -47,6 +55,7 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window_);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
+  place(box, window_);
   const int pressed = box.exec();
   guard_.rethrow();
   if (!asks) return Answer::ok;
