@@ -3,6 +3,7 @@
 
 #include "ui/qt/cell_painter.hpp"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStringList>
 
@@ -13,8 +14,8 @@ namespace {
 constexpr QColor thin_line(0, 0, 0, 56);
 constexpr int absent_candidate_alpha = 80;
 
-QFont font_of_size(const QPainter& painter, int points) {
-  QFont font = painter.font();
+QFont font_of_size(int points) {
+  QFont font = QGuiApplication::font();
   font.setPixelSize(points * 4 / 3);
   return font;
 }
@@ -65,7 +66,7 @@ void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
   painter.fillRect(square, to_qcolor(cell.back_colour));
   paint_thin_lines(painter, square);
   if (cell.text == " ") return;
-  painter.setFont(font_of_size(painter, cell.font_size > 0 ? cell.font_size : grid_font_size));
+  painter.setFont(font_of_size(cell.font_size > 0 ? cell.font_size : grid_font_size));
   paint_text(painter, square, cell);
 }
 
