@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// The solve button with the companion solver itself.
+
+#include <gtest/gtest.h>
+
+#include "puzzles/library.hpp"
+#include "tests/files/machine.hpp"
+#include "tests/support/game.hpp"
+
+namespace sdk::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class CompanionSolver : public testing::Test {
+ protected:
+  CompanionSolver() { fs::copy_file(ZOLV_PROGRAM, desktop.program_folder() / "zolv.exe"); }
+
+  std::string givens_of(const LibraryEntry& entry) {
+    std::string grid(entry.solution);
+    for (std::size_t k = 0; k < 81; ++k)
+      if (entry.mask[k] == '0') grid[k] = '.';
+    return grid;
+  }
+
+  const KeptFolder kept;
+  Game game;
+  MainWindow& w = game.window;
+  FakeDesktop& desktop = game.desktop;
+  const Variable variable{"tmp", game.desktop.temporary_folder()};
+};
+
+TEST_F(CompanionSolver, SolvesTheFortyStoredPuzzles) {
+  for (std::size_t k = 0; k < BibliothequeGrilles.size(); ++k) {
+    const LibraryEntry& entry = BibliothequeGrilles[k];
+    game.draw(givens_of(entry));
+    w.click(Control::Bouton_GO);
+    EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)}) << k + 1;
+    if (k + 1 == 33) continue;  // has several solutions
+    EXPECT_EQ(joined(shown(w)), entry.solution) << k + 1;
+    EXPECT_EQ(w.ChaineSolution, entry.solution) << k + 1;
+  }
+}
+
+TEST_F(CompanionSolver, SolvesAnEmptyGrid) {
+  game.draw(std::string(81, '.'));
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+}
+
+TEST_F(CompanionSolver, TellsThatThereIsNoSolution) {
+  game.draw("11" + std::string(79, '.'));
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_TRUE(fs::is_empty(desktop.temporary_folder()));
+}
+
+TEST_F(CompanionSolver, SaysNothingToAGridThatItCannotRead) {
+  game.draw("#" + std::string(80, '.'));
+  w.click(Control::Bouton_GO);
+  EXPECT_TRUE(desktop.boxes.empty());
+  EXPECT_EQ(desktop.pointers, std::vector{Pointer::hourglass});
+}
+
+}  // namespace
+}  // namespace sdk::test

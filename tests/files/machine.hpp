@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// What the tests of files need of the machine, put back at their end.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace sdk::test {
+
+/// A fresh folder, removed at the end with all that is in it. Everybody may enter it.
+class ScratchFolder {
+ public:
+  ScratchFolder();
+  ~ScratchFolder();
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  std::filesystem::path operator/(std::string_view name) const { return folder_ / name; }
+  const std::filesystem::path& path() const { return folder_; }
+  /// The names of its files, in order.
+  std::string names() const;
+
+ private:
+  std::filesystem::path folder_;
+};
+
+/// Puts the current folder back.
+class KeptFolder {
+ public:
+  ~KeptFolder() { std::filesystem::current_path(folder_); }
+
+ private:
+  std::filesystem::path folder_ = std::filesystem::current_path();
+};
+
+/// A variable of the environment with another value, or none.
+class Variable {
+ public:
+  Variable(std::string name, const std::optional<std::string>& value);
+  ~Variable();
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  std::string name_;
+  std::optional<std::string> before_;
+};
+
+/// A player to whom access rights apply, also when the tests are run by root.
+class PlainUser {
+ public:
+  PlainUser();
+  ~PlainUser();
+  PlainUser(const PlainUser&) = delete;
+  PlainUser& operator=(const PlainUser&) = delete;
+
+ private:
+  bool was_root_;
+};
+
+/// No file may grow longer than that: what is beyond fails as on a full disk.
+class FileLimit {
+ public:
+  explicit FileLimit(std::size_t bytes);
+  ~FileLimit();
+  FileLimit(const FileLimit&) = delete;
+  FileLimit& operator=(const FileLimit&) = delete;
+};
+
+void write_file(const std::filesystem::path& file, std::string_view bytes);
+
+/// Owner, group and others: 0777 at most.
+unsigned rights_of(const std::filesystem::path& file);
+
+}  // namespace sdk::test

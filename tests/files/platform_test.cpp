@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Processes, and the folders of the program and of the exchange.
+
+#include "files/platform.hpp"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include "files/external_solver.hpp"
+#include "tests/files/machine.hpp"
+#include "tests/support/game.hpp"
+
+namespace sdk::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* puzzle =
+    "987654321\n1.5927468\n642138579\n426571983\n793482156\n518396742\n371865294\n2697438.5\n"
+    ".5421963.\n";
+constexpr const char* solution =
+    "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
+
+class Process : public testing::Test {
+ protected:
+  /// Waits for its end as the game does.
+  static void wait_for(std::uint32_t id) {
+    while (ProcessusActif(id)) {
+    }
+  }
+  static bool has_children() { return waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD; }
+
+  Game game;
+  FakeDesktop& desktop = game.desktop;
+};
+
+TEST_F(Process, NumberZeroIsNeverActive) {
+  desktop.exit_codes[0] = 259;
+  EXPECT_FALSE(ProcessusActif(0));
+}
+
+TEST_F(Process, IsActiveWhileItsExitCodeIs259) {
+  desktop.exit_codes[7] = 259;
+  EXPECT_TRUE(ProcessusActif(7));
+  for (const std::uint32_t code : {0u, 1u, 3u, 258u, 260u, 0xFFFFFFFFu}) {
+    desktop.exit_codes[7] = code;
+    EXPECT_FALSE(ProcessusActif(7)) << code;
+  }
+}
+
+TEST_F(Process, ThatNobodyKnowsIsNotActive) {
+  EXPECT_FALSE(ProcessusActif(0x7FFFFFFF));
+  EXPECT_FALSE(ProcessusActif(static_cast<std::uint32_t>(getppid())));
+}
+
+TEST_F(Process, IsActiveUntilItEnds) {
+  const std::uint32_t id = platform::start_process("exec sleep 100");
+  ASSERT_NE(id, 0u);
+  EXPECT_TRUE(ProcessusActif(id));
+  EXPECT_TRUE(ProcessusActif(id));
+  kill(static_cast<pid_t>(id), SIGKILL);
+  wait_for(id);
+  EXPECT_FALSE(ProcessusActif(id));
+  EXPECT_FALSE(has_children());
+}
+
+TEST_F(Process, ThatHasEndedIsReportedOnceAndForgotten) {
+  const std::uint32_t id = platform::start_process("exit 3");
+  std::optional<std::uint32_t> code;
+  while ((code = platform::exit_code(id)) == 259) {
+  }
+  EXPECT_EQ(code, 3u);
+  EXPECT_EQ(platform::exit_code(id), std::nullopt);
+  EXPECT_FALSE(has_children());
+}
+
+TEST_F(Process, EndedByASignalHasEnded) {
+  const std::uint32_t id = platform::start_process("kill -TERM $$");
+  std::optional<std::uint32_t> code;
+  while ((code = platform::exit_code(id)) == 259) {
+  }
+  EXPECT_EQ(code, 128u + SIGTERM);
+}
+
+TEST_F(Process, HasNothingToRead) {
+  const std::uint32_t id = platform::start_process("read line && exit 1; exit 0");
+  std::optional<std::uint32_t> code;
+  while ((code = platform::exit_code(id)) == 259) {
+  }
+  EXPECT_EQ(code, 0u);
+}
+
+/// The temporary folder as the program has it.
+class PlainDesktop : public FakeDesktop {
+ public:
+  std::string temporary_folder() override { return PlatformDesktop::temporary_folder(); }
+};
+
+TEST(TemporaryFolder, IsThatOfTheVariable) {
+  const ScratchFolder folder;
+  const Variable tmp("tmp", folder.path().string());
+  PlainDesktop desktop;
+  EXPECT_EQ(desktop.temporary_folder(), folder.path().string());
+  const Variable changed("tmp", "another");
+  EXPECT_EQ(desktop.temporary_folder(), "another");
+}
+
+TEST(TemporaryFolder, IsPrivateWithoutTheVariable) {
+  for (const auto& value : {std::optional<std::string>(), std::optional<std::string>("")}) {
+    const ScratchFolder system;
+    const Variable place("TMPDIR", system.path().string());
+    const Variable tmp("tmp", value);
+    {
+      PlainDesktop desktop;
+      const std::string folder = desktop.temporary_folder();
+      EXPECT_EQ(fs::path(folder).parent_path(), system.path());
+      EXPECT_EQ(rights_of(folder), 0700u);
+      EXPECT_EQ(std::string(std::getenv("tmp")), folder);
+      EXPECT_EQ(desktop.temporary_folder(), folder);
+      write_file(fs::path(folder) / "00000.000", "x");
+    }
+    EXPECT_EQ(system.names(), "");
+  }
+}
+
+TEST(TemporaryFolder, OfThePlayersOwnIsLeftAtTheEnd) {
+  const ScratchFolder folder;
+  const Variable tmp("tmp", folder.path().string());
+  { EXPECT_NE(PlainDesktop().temporary_folder(), ""); }
+  EXPECT_TRUE(fs::exists(folder.path()));
+}
+
+TEST(TemporaryFolder, ThatIsPrivateIsFoundByTheSolver) {
+  const KeptFolder kept;
+  const Variable tmp("tmp", std::nullopt);
+  PlainDesktop desktop;
+  fs::copy_file(STAND_INS "/keeps_input.sh", desktop.program_folder() / "zolv.exe");
+  MainWindow w(desktop);
+  w.start("");
+  draw(w, puzzle);
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(joined(shown(w)), solution);
+  EXPECT_EQ(bytes_of(fs::path(desktop.temporary_folder()) / "seen.000").size(), 162u);
+}
+
+TEST(TemporaryFolder, IsNotMadeWithoutASolver) {
+  const KeptFolder kept;
+  const Variable tmp("tmp", std::nullopt);
+  PlainDesktop desktop;
+  MainWindow w(desktop);
+  w.start("");
+  draw(w, puzzle);
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(joined(shown(w)), solution);
+  EXPECT_EQ(std::getenv("tmp"), nullptr);
+}
+
+TEST(TemporaryFolder, ThatCannotBeMadeEndsTheSolveSilently) {
+  const KeptFolder kept;
+  const Variable tmp("tmp", std::nullopt);
+  PlainDesktop desktop;
+  fs::copy_file(STAND_INS "/digits.sh", desktop.program_folder() / "zolv.exe");
+  MainWindow w(desktop);
+  w.start("");
+  draw(w, puzzle);
+  const Variable place("TMPDIR", "/proc");
+  w.click(Control::Bouton_GO);
+  EXPECT_EQ(shown(w), puzzle);
+  EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST(ProgramFolder, IsThatOfTheRealExecutable) {
+  EXPECT_EQ(platform::program_folder(), fs::canonical("/proc/self/exe").parent_path());
+}
+
+std::string output_of(const std::string& command) {
+  FILE* pipe = popen(command.c_str(), "r");
+  if (!pipe) return "cannot run " + command;
+  std::string text;
+  char buffer[4096];
+  while (const auto size = std::fread(buffer, 1, sizeof buffer, pipe)) text.append(buffer, size);
+  pclose(pipe);
+  return text;
+}
+
+TEST(ProgramFolder, IsFoundThroughALinkToTheProgram) {
+  const ScratchFolder program, elsewhere;
+  const Variable tmp("tmp", elsewhere.path().string());
+  fs::copy_file(SUDOKU_SCRIPT, program / "sudoku-script");
+  fs::copy_file(STAND_INS "/digits.sh", program / "zolv.exe");
+  fs::create_symlink(program / "sudoku-script", elsewhere / "game");
+  const std::string output =
+      output_of("cd " + elsewhere.path().string() +
+                " && printf 'click Bouton_GO\nshow ChaineSolution\n' | ./game");
+  EXPECT_NE(output.find(solution), std::string::npos) << output;
+}
+
+}  // namespace
+}  // namespace sdk::test
