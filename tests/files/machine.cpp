@@ -60,11 +60,12 @@ Variable::~Variable() { set(name_, before_); }
 
 PlainUser::PlainUser() : was_root_(geteuid() == 0) {
   constexpr uid_t nobody = 65534;
-  if (was_root_ && seteuid(nobody) != 0) throw std::runtime_error("root cannot become nobody");
+  if (was_root_ && (setegid(nobody) != 0 || seteuid(nobody) != 0))
+    throw std::runtime_error("root cannot become nobody");
 }
 
 PlainUser::~PlainUser() {
-  if (was_root_ && seteuid(0) != 0) std::abort();
+  if (was_root_ && (seteuid(0) != 0 || setegid(0) != 0)) std::abort();
 }
 
 namespace {

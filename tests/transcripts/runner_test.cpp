@@ -98,6 +98,26 @@ TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
   }
 }
 
+TEST_F(TranscriptRunner, puts_files_and_solvers_in_its_folders) {
+  const std::string text =
+      "= file <work>/a b.sdk \"1 \\r\\n\\t\\\"\\\\\"\n> show file <work>/a b.sdk\n"
+      "  \"1 \\r\\n\\t\\\"\\\\\"\n= solver zero\n= solver empty_output\n"
+      "> show file <program>/zolv.exe\n";
+  const ToolRun run = play(text, "--rewrite ");
+  EXPECT_EQ(run.status, 0) << run.output;
+  EXPECT_TRUE(transcript().starts_with(text + "  \"#!/bin/sh\\n")) << transcript();
+  EXPECT_EQ(play(transcript()).status, 0);
+}
+
+TEST_F(TranscriptRunner, refuses_malformed_preparations) {
+  for (const char* line :
+       {"= ", "= file", "= file <work>/a", "= file <work>/a \"", "= file <work>/a \"x",
+        "= file <work>/no/a \"x\"", "= solver", "= solver nobody", "= remove <work>/a"}) {
+    const ToolRun run = play(std::string(line) + "\n> show focus\n  MSF\n");
+    EXPECT_EQ(run.status, 2) << line << run.output;
+  }
+}
+
 TEST_F(TranscriptRunner, refuses_a_file_that_is_not_there) {
   const ToolRun run = run_tool(RUN_TRANSCRIPT " /no/such/transcript.txt");
   EXPECT_EQ(run.status, 2);

@@ -5,6 +5,7 @@
 
 #include <sstream>
 
+#include "tests/transcripts/preparation.hpp"
 #include "tests/transcripts/scratch.hpp"
 #include "tools/script/script.hpp"
 
@@ -13,9 +14,11 @@ namespace sdk {
 namespace {
 
 constexpr std::string_view command_mark = "> ";
+constexpr std::string_view preparation_mark = "= ";
 constexpr std::string_view output_mark = "  ";
 
 bool is_command(const std::string& line) { return line.starts_with(command_mark); }
+bool is_preparation(const std::string& line) { return line.starts_with(preparation_mark); }
 bool is_output(const std::string& line) { return line.starts_with(output_mark); }
 bool is_apart(const std::string& line) { return line.empty() || line.starts_with('#'); }
 
@@ -26,8 +29,9 @@ void check(const Lines& transcript) {
     const std::string where = "line " + std::to_string(i + 1) + ": ";
     if (is_command(line)) commanded = true;
     if (is_output(line) && !commanded) throw Malformed(where + "output before the first command");
-    if (!is_command(line) && !is_output(line) && !is_apart(line))
-      throw Malformed(where + "begins neither with \"> \" nor with two blanks nor with #: " + line);
+    if (!is_command(line) && !is_preparation(line) && !is_output(line) && !is_apart(line))
+      throw Malformed(where +
+                      "begins neither with \"> \" nor with two blanks, \"= \" or #: " + line);
   }
   if (!commanded) throw Malformed("there is no command");
 }
@@ -39,6 +43,8 @@ class Run {
     script_.run("program " + scratch_.program().string());
     script_.run("tmp " + scratch_.tmp().string());
   }
+
+  void prepare(const std::string& line) { sdk::prepare(line, scratch_); }
 
   Lines output_of(const std::string& command) {
     out_.str("");
@@ -78,6 +84,7 @@ Lines replay(const Lines& transcript) {
   for (const std::string& line : transcript) {
     if (is_output(line)) continue;
     result.push_back(line);
+    if (is_preparation(line)) run.prepare(line.substr(preparation_mark.size()));
     if (!is_command(line)) continue;
     for (std::string& output : run.output_of(line.substr(command_mark.size())))
       result.push_back(std::move(output));

@@ -4,6 +4,7 @@
 /// A transcript: commands and what the program printed, in one readable file.
 ///
 ///     # a comment
+///     = what is put in its folders
 ///     > a command
 ///       a line of its output
 ///
