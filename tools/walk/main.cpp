@@ -37,7 +37,8 @@ Output, for each puzzle:
   --signature       one number that stands for the walks of the forty built-in puzzles
   --help            this text
 
-A line that is no puzzle is reported on standard error; the others are still played, and the exit
+A line that is no puzzle gives "error line <n>: <why>" on standard error; every line counts in <n>,
+and a carriage return at a line's end is ignored. The other lines are still played, and the exit
 status is 1. A wrong option gives exit status 2.
 )";
 
