@@ -14,3 +14,11 @@ foreach(file ${files})
   add_test(NAME boards.${name} COMMAND run_boards ${file})
   set_tests_properties(boards.${name} PROPERTIES LABELS quick)
 endforeach()
+
+add_executable(board_runner_tests board_runner_test.cpp)
+target_compile_definitions(
+  board_runner_tests PRIVATE RUN_BOARDS="$<TARGET_FILE:run_boards>"
+                             BOARDS="${CMAKE_CURRENT_SOURCE_DIR}/boards")
+target_link_libraries(board_runner_tests PRIVATE boards GTest::gtest_main)
+add_dependencies(board_runner_tests run_boards)
+gtest_discover_tests(board_runner_tests PROPERTIES LABELS quick)
