@@ -44,6 +44,7 @@ save_picture() {
   xwdtopnm -quiet "$screen" | pnmcrop -quiet -black | pnmtopng -quiet >"$picture"
 }
 
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$work} # Qt complains when there is none
 trap stop EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM

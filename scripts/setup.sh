@@ -3,18 +3,20 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the system packages that are missing for what is to be done.
-#   scripts/setup.sh SET...    with SET one of: play picture test bench check
+#   scripts/setup.sh SET...    with SET one of: play picture test bench check fuzz
 # With everything there it only asks the package database, and changes nothing.
 # SUDOKU_SETUP=skip leaves the packages to you.
 set -euo pipefail
 
 packages_for() {
   case $1 in
-    play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n ;;
+    play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev \
+      qt6-translations-l10n ;;
     picture) echo xvfb netpbm ;;
     test) echo libgtest-dev ;;
     bench) echo libbenchmark-dev xvfb ;;
     check) echo clang-format ;;
+    fuzz) echo clang libclang-rt-dev ;;
     *) echo "scripts/setup.sh: no set of packages is called $1" >&2 && return 1 ;;
   esac
 }

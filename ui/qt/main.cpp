@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "ui/qt/command_line.hpp"
+#include "ui/qt/font_reader.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
 
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
     std::cout << *answer << std::flush;
     return std::cout ? 0 : 1;
   }
+  sdk::FontReader fonts;
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);  // takes its own options away
   QApplication::setApplicationName("sudoku");
@@ -22,6 +24,7 @@ int main(int argc, char** argv) {
   sdk::ProgramGuard guard;
   sdk::QtDesktop desktop(guard);
   sdk::MainWindow window(desktop);
+  fonts.wait();
   sdk::MainFrame frame(window, guard);
   desktop.set_window(&frame);
   guard.run([&] { window.start(sdk::command_line({argv + 1, argv + argc})); });
