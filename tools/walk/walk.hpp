@@ -15,7 +15,7 @@
 namespace sdk {
 
 /// Accepts every offer and has nothing else of a machine.
-class YesDesktop final : public PlatformDesktop {
+class YesDesktop : public PlatformDesktop {
  public:
   Answer message_box(const std::string& text, Icon icon, Buttons buttons,
                      const std::string& title) override;
