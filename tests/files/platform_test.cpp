@@ -13,6 +13,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <stdexcept>
 
 #include "files/external_solver.hpp"
 #include "tests/files/machine.hpp"
@@ -90,7 +91,29 @@ TEST_F(Process, EndedByASignalHasEnded) {
   EXPECT_EQ(code, 128u + SIGTERM);
 }
 
+/// Something to read on standard input.
+class WaitingInput {
+ public:
+  WaitingInput() : before_(dup(STDIN_FILENO)) {
+    int ends[2];
+    if (pipe(ends) != 0 || write(ends[1], "line\n", 5) != 5) throw std::runtime_error("no pipe");
+    dup2(ends[0], STDIN_FILENO);
+    close(ends[0]);
+    close(ends[1]);
+  }
+  ~WaitingInput() {
+    dup2(before_, STDIN_FILENO);
+    close(before_);
+  }
+  WaitingInput(const WaitingInput&) = delete;
+  WaitingInput& operator=(const WaitingInput&) = delete;
+
+ private:
+  int before_;
+};
+
 TEST_F(Process, HasNothingToRead) {
+  const WaitingInput input;
   const std::uint32_t id = platform::start_process("read line && exit 1; exit 0");
   std::optional<std::uint32_t> code;
   while ((code = platform::exit_code(id)) == 259) {

@@ -61,6 +61,7 @@ TEST(Script, every_command_of_the_help_exists) {
     if (line[2] == ' ') continue;  // goes on with the meaning
     ++commands_told;
     const std::string name = line.substr(2, line.find(' ', 2) - 2);
+    if (name == "export") continue;  // would leave a file behind
     const std::string answer = ScriptRun().play(name);
     EXPECT_EQ(answer.find("unknown"), answer.npos) << name << ": " << answer;
   }
