@@ -6,10 +6,10 @@
 #include <iomanip>
 #include <sstream>
 
-#include "pas_a_pas/helpers.hpp"
+#include "grid/window.hpp"
+#include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"
-#include "tests/support/game.hpp"
 
 namespace sdk::test {
 
@@ -165,7 +165,6 @@ std::string call_differences(const BoardFile& file, const BoardCase& board, bool
 }  // namespace
 
 std::string differences(const BoardFile& file, const BoardCase& board) {
-  const Game game;
   std::string text;
   for (const bool in_steps : {true, false})
     if (const std::string found = call_differences(file, board, in_steps); !found.empty())

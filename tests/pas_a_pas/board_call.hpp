@@ -10,9 +10,9 @@
 
 namespace sdk::test {
 
-/// Calls the technique on the board, once with `ModePasAPas` true and once false. Returns what
-/// differs from the drawing, the drawing of what the call really did included; empty when nothing
-/// does.
+/// Calls the technique on the board, in the grids of the window that there must be, once with
+/// `ModePasAPas` true and once false. Returns what differs from the drawing, the drawing of what
+/// the call really did included; empty when nothing does.
 std::string differences(const BoardFile& file, const BoardCase& board);
 
 }  // namespace sdk::test

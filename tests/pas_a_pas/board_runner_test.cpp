@@ -20,6 +20,7 @@
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "tests/pas_a_pas/board_call.hpp"
+#include "tests/support/game.hpp"
 
 namespace sdk::test {
 namespace {
@@ -123,10 +124,15 @@ TEST(BoardFiles, OnlyAMarkThatStandsCanBeTakenAway) {
   EXPECT_EQ(fault(one_case(row, "marks r1c1=4\nfires\n")), "");
 }
 
+/// What a call on the file's first board differs in.
+std::string judged(const BoardFile& file) {
+  const Game game;
+  return differences(file, file.cases.front());
+}
+
 /// What the run of one case finds.
 std::string found(const std::string& row, const std::string& below) {
-  const BoardFile file = parse_boards(one_case(row, below), "01_test.txt");
-  return differences(file, file.cases.front());
+  return judged(parse_boards(one_case(row, below), "01_test.txt"));
 }
 
 bool has(const std::string& text, const std::string& part) {
@@ -186,7 +192,7 @@ Bool16 pointing_with() {
 std::string found_with(Bool16 (*procedure)()) {
   BoardFile file = parse_boards(one_case(first_row, "fires\n"), "01_test.txt");
   file.procedure = procedure;
-  return differences(file, file.cases.front());
+  return judged(file);
 }
 
 TEST(BoardCalls, OtherChangesAreNoticed) {
@@ -202,8 +208,7 @@ TEST(BoardCalls, OtherChangesAreNoticed) {
 TEST(BoardCalls, ATechniqueThatRecomputesCountsAfreshAndOthersDoNot) {
   BoardFile file = parse_boards(one_case(first_row, "fires\n"), "01_test.txt");
   file.recomputes = true;
-  EXPECT_TRUE(
-      has(differences(file, file.cases.front()), "r1c8 should be !125- with mark 3, count 2"));
+  EXPECT_TRUE(has(judged(file), "r1c8 should be !125- with mark 3, count 2"));
 }
 
 int exit_status(const std::string& arguments) {

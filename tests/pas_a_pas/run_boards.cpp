@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "tests/pas_a_pas/board_call.hpp"
+#include "tests/support/game.hpp"
 
 namespace sdk::test {
 
@@ -61,5 +62,6 @@ int main(int argc, char** argv) {
     std::cerr << fault.what() << '\n';
     return 2;
   }
+  const sdk::test::Game game;
   return RUN_ALL_TESTS();
 }
