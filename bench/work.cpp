@@ -6,34 +6,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
+#include "bench/game.hpp"
 #include "bench/plain_search.hpp"
 #include "puzzles/library.hpp"
-#include "ui/qt/main_frame.hpp"
-#include "ui/qt/qt_desktop.hpp"
 
 namespace sdk::bench {
 namespace {
-
-/// The game as its program sets it up.
-class Game {
- public:
-  Game() : desktop_(guard_), window_(desktop_), frame_(window_, guard_) {
-    desktop_.set_window(&frame_);
-    window_.start("");
-    frame_.show();
-    QApplication::processEvents();
-  }
-
-  MainWindow& window() { return window_; }
-
- private:
-  ProgramGuard guard_;
-  QtDesktop desktop_;
-  MainWindow window_;
-  MainFrame frame_;
-};
 
 Game* game = nullptr;
 
