@@ -5,9 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <set>
 #include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
 
+#include "pas_a_pas/cells.hpp"
 #include "puzzles/library.hpp"
 #include "tests/transcripts/tool.hpp"
 #include "tools/walk/walk.hpp"
@@ -75,20 +79,43 @@ TEST(Walk, TellsWhatATechniqueRemovedAndMarked) {
                 "E exhausted | 3=r1c4,r1c5,r1c6,r1c7,r1c8,r1c9 4=r1c1,r1c2,r1c3 6=\n");
 }
 
+void replace_all(std::string& text, std::string_view part, std::string_view by) {
+  for (auto at = text.find(part); at != text.npos; at = text.find(part))
+    text.replace(at, part.size(), by);
+}
+
+/// The line with R for a cell, d for digits, and lists cut down to one item.
+std::string skeleton(std::string line) {
+  for (int number = 1; number <= 81; ++number) {
+    const auto [row, column] = cell_at(number);
+    replace_all(line, "r" + std::to_string(row) + "c" + std::to_string(column), "R");
+  }
+  for (char& c : line)
+    if (c >= '1' && c <= '9') c = 'd';
+  for (const auto& [part, by] : {std::pair{"dd", "d"}, {"R,R", "R"}, {"R-d R-d", "R-d"}})
+    replace_all(line, part, by);
+  replace_all(line, "d=R", "d=");
+  return line;
+}
+
 TEST(Walk, EveryLineHasOneOfTheForms) {
-  const std::regex form(
-      "grid [1-9.]{81}|"
-      "T(0[1-9]|1[0-8]|20|21)( r[1-9]c[1-9]-[1-9]+)+|"
-      "([NH] r[1-9]c[1-9]=[1-9]|E completed|E exhausted|E dead r[1-9]c[1-9]) \\| "
-      "3=(r[1-9]c[1-9],?)* 4=(r[1-9]c[1-9],?)* 6=(r[1-9]c[1-9],?)*");
+  const std::set<std::string> forms{"T0d R-d",
+                                    "Td0 R-d",
+                                    "Td R-d",
+                                    "N R=d | d= d= d=",
+                                    "H R=d | d= d= d=",
+                                    "E completed | d= d= d=",
+                                    "E exhausted | d= d= d="};
   Walker walker;
   for (const LibraryEntry& entry : BibliothequeGrilles) {
     std::string puzzle(entry.solution);
     for (std::size_t k = 0; k < 81; ++k)
       if (entry.mask[k] == '0') puzzle[k] = '.';
     std::istringstream lines(walker.walk(puzzle));
-    for (std::string line; std::getline(lines, line);)
-      EXPECT_TRUE(std::regex_match(line, form)) << line;
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line, "grid " + puzzle);
+    while (std::getline(lines, line)) EXPECT_TRUE(forms.contains(skeleton(line))) << line;
   }
 }
 
