@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <iostream>
 #include <system_error>
 
@@ -45,6 +46,11 @@ std::uint32_t PlatformDesktop::random_seed() {
   const auto ticks =
       static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
   return static_cast<std::uint32_t>(ticks ^ (ticks >> 32));
+}
+
+int PlatformDesktop::year() {
+  const std::time_t now = std::time(nullptr);
+  return std::localtime(&now)->tm_year + 1900;
 }
 
 void PlatformDesktop::report_error(const std::string& line) { std::cerr << line << std::endl; }

@@ -25,6 +25,7 @@ class PlatformDesktop : public Desktop {
   std::optional<std::uint32_t> exit_code(std::uint32_t id) override;
   void replace_file(const std::string& file, std::string_view bytes) override;
   std::uint32_t random_seed() override;
+  int year() override;
   void report_error(const std::string& line) override;
 
  private:

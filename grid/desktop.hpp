@@ -57,6 +57,13 @@ class Desktop {
   /// A new seed at every call, from a clock finer than a second.
   virtual std::uint32_t random_seed() = 0;
 
+  /// The year of the clock.
+  virtual int year() = 0;
+
+  /// Opens a document, or a web page by its address, with the system's own program for it, without
+  /// waiting. Throws RuntimeError when there is none.
+  virtual void open_document(const std::string& document_or_address) = 0;
+
   /// The player's own folder for files that the program writes unasked; it exists after the call.
   /// Throws RuntimeError when it cannot be made.
   virtual std::filesystem::path data_folder() = 0;

@@ -4,6 +4,8 @@
 // What each button, check box and the level list do, and the end of the program.
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "files/external_solver.hpp"
 #include "files/puzzle_file.hpp"
@@ -13,6 +15,7 @@
 #include "puzzles/export.hpp"
 #include "puzzles/library.hpp"
 #include "ui/main_window.hpp"
+#include "ui/version.hpp"
 
 namespace sdk {
 
@@ -25,7 +28,7 @@ void MainWindow::click(Control button) {
   static constexpr Command commands[] = {
       {Control::Command1, &MainWindow::new_puzzle}, {Control::Command2, &MainWindow::clear},
       {Control::Command3, &MainWindow::quit},       {Control::Command4, &MainWindow::print},
-      {Control::Command5, &MainWindow::about},      {Control::Command6, &MainWindow::load},
+      {Control::Command5, &MainWindow::show_about}, {Control::Command6, &MainWindow::load},
       {Control::Command7, &MainWindow::essai},      {Control::Command8, &MainWindow::hint},
       {Control::sauve, &MainWindow::save},          {Control::Bouton_GO, &MainWindow::solve},
       {Control::aide, &MainWindow::help},
@@ -172,10 +175,44 @@ void MainWindow::MajCandidats() {
   MSR.refresh();
 }
 
-// The seams of the two commands that are still to come.
+void MainWindow::show_about() {
+  about_.show(desktop().year());
+  if (listener_) listener_->about_changed();
+}
 
-void MainWindow::about() {}
+void MainWindow::click_about(AboutControl control) {
+  if (!about_.shown()) return;
+  if (control == AboutControl::Label1)
+    open_outside(page_address);
+  else
+    close_about();
+}
 
-void MainWindow::help() {}
+void MainWindow::close_about() {
+  if (!about_.shown()) return;
+  about_.unload();
+  if (listener_) listener_->about_changed();
+}
+
+void MainWindow::help() {
+  const char* document = globals.Langue == "En" ? "Sudoku_En.pdf" : "Sudoku_Fr.pdf";
+  const auto path = desktop().program_folder() / document;
+  // Asked for a document that is not there, some systems answer with a box of their own.
+  std::error_code ignored;
+  if (std::filesystem::exists(path, ignored)) open_outside(path.string());
+}
+
+void MainWindow::open_outside(const std::string& document_or_address) {
+  try {
+    desktop().open_document(document_or_address);
+  } catch (const RuntimeError&) {
+    // Nothing that is opened beside the game may disturb it.
+  }
+}
+
+void MainWindow::focus_lost(Control control) {
+  // What covered the lines while the button had the focus is gone.
+  if (control == Control::aide) trace_ligne();
+}
 
 }  // namespace sdk

@@ -52,6 +52,8 @@ void MainWindow::langage(const std::string& language) {
   chosen_level_.reset();
   for (std::int16_t level = 0; level <= 4; ++level)
     levels_.push_back({globals.Messages[static_cast<std::size_t>(16 + level)], level});
+  about_.load();
+  about_.set_author_caption(globals.Messages[31]);
   if (listener_) listener_->controls_changed();
 }
 

@@ -14,6 +14,7 @@
 #include "grid/drawing.hpp"
 #include "grid/errors.hpp"
 #include "grid/window.hpp"
+#include "ui/about.hpp"
 #include "ui/layout.hpp"
 
 namespace sdk {
@@ -54,6 +55,8 @@ class WindowListener {
   /// The box lines were drawn; they are in MainWindow::lines.
   virtual void lines_drawn() = 0;
   virtual void focus_changed() = 0;
+  /// The about box was opened or closed.
+  virtual void about_changed() = 0;
   /// What changed is to be on screen when the call returns.
   virtual void refresh() = 0;
 };
@@ -85,6 +88,13 @@ class MainWindow final : public Window {
   void key_down(int code, bool ctrl);
   /// A mouse button went down or up on a grid, or the window changed its size.
   void redraw_lines();
+  /// A control lost the keyboard focus to another.
+  void focus_lost(Control control);
+  /// A click on a control of the about box; nothing happens while it is not shown.
+  void click_about(AboutControl control);
+  /// A key or a mouse button pressed in the about box, or its own close command; nothing happens
+  /// while it is not shown.
+  void close_about();
   /// Whether the window may close. Asks the player, but for the end of the session.
   bool close(CloseMode mode);
 
@@ -98,6 +108,7 @@ class MainWindow final : public Window {
   const std::string& title() const { return title_; }
   Control focus() const { return focus_; }
   const Layout& layout() const { return layout_; }
+  const About& about() const { return about_; }
   /// What trace_ligne drew last.
   const std::vector<LineDrawing>& lines() const { return lines_; }
 
@@ -139,8 +150,9 @@ class MainWindow final : public Window {
   void solve_opened();
   void hint();
   void solve();
-  void about();
+  void show_about();
   void help();
+  void open_outside(const std::string& document_or_address);
 
   void erase_selection();
   void type_digit(char digit);
@@ -155,6 +167,7 @@ class MainWindow final : public Window {
   Control focus_ = Control::MSF;
   Layout layout_ = sdk::layout(false);
   std::vector<LineDrawing> lines_;
+  About about_;
   bool opened_at_start_ = false;
   WindowListener* listener_ = nullptr;
 };

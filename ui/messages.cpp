@@ -57,7 +57,7 @@ constexpr std::array<Text, 35> messages{{
 }};
 
 /// In the order of Notice.
-constexpr std::array<Text, 9> notices{{
+constexpr std::array<Text, 11> notices{{
     {"SuDoKu doit s'arrêter (%1)", "SuDoKu has to stop (%1)"},
     {"SuDoKu doit s'arrêter (%1). La grille est sauvée dans %2",
      "SuDoKu has to stop (%1). The grid was saved in %2"},
@@ -69,6 +69,8 @@ constexpr std::array<Text, 9> notices{{
     {"Candidats", "Candidates"},
     {"Niveau", "Level"},
     {"Suggestion", "Hint"},
+    {"l'équipe SuDoKu", "the SuDoKu team"},
+    {"Copyright © l'équipe SuDoKu %1", "Copyright © the SuDoKu team %1"},
 }};
 
 void fill_in(std::string& text, std::string_view place, std::string_view value) {

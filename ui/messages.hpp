@@ -25,6 +25,8 @@ enum class Notice {
   candidates,       ///< accessible name of `MSR`
   level,            ///< accessible name of `Niveau`
   hint,             ///< accessible name and tooltip of `Command8`
+  author,           ///< who made the game
+  rights,           ///< notice of rights: %1 the year
 };
 
 /// The notice in `language` (chosen as in messages_in), filled in.

@@ -68,6 +68,10 @@ TEST(Notices, AreFilledInInBothLanguages) {
   EXPECT_EQ(notice(Notice::candidates, "En"), "Candidates");
   EXPECT_EQ(notice(Notice::level, "Fr"), "Niveau");
   EXPECT_EQ(notice(Notice::level, "En"), "Level");
+  EXPECT_EQ(notice(Notice::author, "Fr"), "l'équipe SuDoKu");
+  EXPECT_EQ(notice(Notice::author, "En"), "the SuDoKu team");
+  EXPECT_EQ(notice(Notice::rights, "Fr", "2026"), "Copyright © l'équipe SuDoKu 2026");
+  EXPECT_EQ(notice(Notice::rights, "En", "2026"), "Copyright © the SuDoKu team 2026");
 }
 
 TEST(Notices, KeepPlaceholdersThatStandInWhatIsFilledIn) {

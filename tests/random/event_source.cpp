@@ -15,11 +15,25 @@ constexpr const char* buttons[] = {"Command1", "Command2", "Command3",  "Command
                                    "sauve",    "aide",     "Bouton_GO", "Bouton_GO"};
 constexpr const char* answers[] = {"answer yes", "answer no", "answer file a.sdk",
                                    "answer file b.sdk"};
-constexpr const char* rare_events[] = {
-    "close window",         "close taskmanager", "close session", "printer off", "printer on",
-    "answer file no/a.sdk", "click nobody",      "key Tab",       "show MSF",    "show MSR back",
-    "show marks",           "show layout",       "export",        "start",       "start a.sdk",
-    "start b.sdk",          "start missing.sdk"};
+constexpr const char* rare_events[] = {"close window",
+                                       "close taskmanager",
+                                       "close session",
+                                       "printer off",
+                                       "printer on",
+                                       "answer file no/a.sdk",
+                                       "click nobody",
+                                       "key Tab",
+                                       "show MSF",
+                                       "show MSR back",
+                                       "show marks",
+                                       "show layout",
+                                       "export",
+                                       "start",
+                                       "start a.sdk",
+                                       "start b.sdk",
+                                       "start missing.sdk",
+                                       "about key 1",
+                                       "about click Label1"};
 
 }  // namespace
 

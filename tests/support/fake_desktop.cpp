@@ -53,6 +53,7 @@ void FakeDesktop::forget() {
   clipboard.clear();
   prints.clear();
   errors.clear();
+  opened.clear();
   steps = 0;
 }
 
@@ -102,6 +103,11 @@ void FakeDesktop::print(const Page& page) {
 std::uint32_t FakeDesktop::random_seed() {
   at_pick();
   return next_seed++;
+}
+
+void FakeDesktop::open_document(const std::string& document_or_address) {
+  opened.push_back(document_or_address);
+  if (!opening_works) throw RuntimeError(document_or_address, "no program opens it");
 }
 
 fs::path FakeDesktop::data_folder() {

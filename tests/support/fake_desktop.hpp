@@ -43,6 +43,8 @@ class FakeDesktop : public PlatformDesktop {
   bool has_data_folder = true;
   std::uint32_t next_seed = 1;  ///< grows by one at each pick
   std::function<void()> at_pick = [] {};
+  int clock_year = 2026;
+  bool opening_works = true;
   SaveSteps* save_steps = nullptr;                    ///< of the next saves; null: the real ones
   std::map<std::uint32_t, std::uint32_t> exit_codes;  ///< of made-up processes
   /// What happens at the n-th (from 1) call of let_events_run since the last forget().
@@ -55,6 +57,7 @@ class FakeDesktop : public PlatformDesktop {
   std::vector<std::string> clipboard;
   std::vector<Page> prints;
   std::vector<std::string> errors;
+  std::vector<std::string> opened;  ///< documents and addresses, also those that failed
   long steps = 0;
 
   /// Clears the record; the script stays.
@@ -72,6 +75,8 @@ class FakeDesktop : public PlatformDesktop {
   PageSize printer_page() override;
   void print(const Page& page) override;
   std::uint32_t random_seed() override;
+  int year() override { return clock_year; }
+  void open_document(const std::string& document_or_address) override;
   /// Folders of its own, empty at first.
   std::filesystem::path program_folder() override { return scratch_ / "program"; }
   std::string temporary_folder() override { return (scratch_ / "tmp").string(); }

@@ -127,6 +127,12 @@ void dump_controls(std::ostream& out, const MainWindow& w) {
       << " window width " << w.layout().window.width << '\n';
 }
 
+void dump_about(std::ostream& out, const About& about) {
+  out << "about exists " << about.exists() << " shown " << about.shown() << '\n';
+  if (!about.exists()) return;
+  for (const AboutControl control : about_controls) out << '"' << about.text(control) << "\"\n";
+}
+
 }  // namespace
 
 void draw(MainWindow& window, std::string_view grid) {
@@ -180,6 +186,7 @@ std::string dump(const MainWindow& window) {
   dump_fields(out, window);
   dump_globals(out);
   dump_controls(out, window);
+  dump_about(out, window.about());
   return out.str();
 }
 

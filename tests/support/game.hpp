@@ -74,7 +74,7 @@ class Game : private WindowListener {
 
   FakeDesktop desktop;
   MainWindow window{desktop};
-  /// "refresh window", "refresh MSF", "refresh MSR" and "lines", in the order they came.
+  /// "refresh window", "refresh MSF", "refresh MSR", "lines" and "about", in the order they came.
   Lines repaints;
   GridRecorder msf{window.MSF, "MSF", repaints};
   GridRecorder msr{window.MSR, "MSR", repaints};
@@ -94,6 +94,7 @@ class Game : private WindowListener {
   void layout_changed() override { repaints.push_back("layout"); }
   void lines_drawn() override { repaints.push_back("lines"); }
   void focus_changed() override {}
+  void about_changed() override { repaints.push_back("about"); }
   void refresh() override { repaints.push_back("refresh window"); }
 };
 

@@ -95,6 +95,37 @@ Action press_key(Script& script, Arguments& arguments) {
   return [&script, pressed] { press(script.window(), pressed); };
 }
 
+AboutControl about_control(const std::string& name) {
+  const auto* found = std::ranges::find(about_controls, name, about_control_name);
+  if (found == std::end(about_controls)) throw ScriptError("no control of that name: " + name);
+  return *found;
+}
+
+void require_about(Script& script) {
+  if (!script.window().about().shown()) throw ScriptError("the about box is closed");
+}
+
+Action click_about(Script& script, Arguments& arguments) {
+  const AboutControl control = about_control(arguments.word("NAME"));
+  return [&script, control] {
+    require_about(script);
+    script.window().click_about(control);
+  };
+}
+
+Action press_in_about(Script& script, Arguments& arguments) {
+  key_named(arguments.word("K"));
+  return [&script] {
+    require_about(script);
+    script.window().close_about();
+  };
+}
+
+Action about(Script& script, Arguments& arguments) {
+  return arguments.choice("click", "key") ? click_about(script, arguments)
+                                          : press_in_about(script, arguments);
+}
+
 Action answer(Script& script, Arguments& arguments) {
   if (arguments.next() == "file") {
     arguments.word("file");
@@ -158,6 +189,10 @@ constexpr Command table[] = {
      "1..9, kp0..kp9, 0, a..z, Delete, Backspace, Left, Right, Up, Down, Ctrl+C, Ctrl+A, F1, F2, "
      "Escape",
      event, press_key},
+    {"about", "click NAME | key K",
+     "a click on Picture, Label2, Label1, lblVersion or lblCopyright of the about box, or any key "
+     "pressed in it",
+     event, about},
     {"answer", "yes|no | file PATH",
      "answer of the next Yes/No box or file dialog; queued. Without one a box is answered no and a "
      "dialog cancelled. Other boxes take none",

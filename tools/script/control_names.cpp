@@ -16,6 +16,10 @@ constexpr std::array<std::string_view, control_count> names{
     "Command8", "sauve",    "Bouton_GO", "aide",     "Check1",   "Check2",   "Check3",
     "Niveau",   "Label",    "Label3",    "MSF",      "MSR",      "rect",     "rect2"};
 
+/// In the order of AboutControl.
+constexpr std::array<std::string_view, 5> about_names{"Picture", "Label2", "Label1", "lblVersion",
+                                                      "lblCopyright"};
+
 }  // namespace
 
 std::string_view control_name(Control control) {
@@ -26,6 +30,10 @@ std::optional<Control> control_named(std::string_view name) {
   const auto found = std::ranges::find(names, name);
   if (found == names.end()) return std::nullopt;
   return static_cast<Control>(found - names.begin());
+}
+
+std::string_view about_control_name(AboutControl control) {
+  return about_names.at(static_cast<std::size_t>(control));
 }
 
 bool is_button(Control control) { return control <= Control::aide; }

@@ -8,12 +8,15 @@
 #include <string_view>
 
 #include "grid/controls.hpp"
+#include "ui/about.hpp"
 
 namespace sdk {
 
 std::string_view control_name(Control control);
 /// The control of that name, if there is one.
 std::optional<Control> control_named(std::string_view name);
+
+std::string_view about_control_name(AboutControl control);
 
 bool is_button(Control control);
 bool is_check_box(Control control);

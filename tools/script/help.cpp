@@ -39,6 +39,10 @@ Printed as it happens
   dialog open|save "filter" -> "path"
   dialog open|save "filter" -> cancelled
   open "document or address"
+  about begin                     the about box opens; its controls, one a line
+  about NAME "text"
+  about end
+  about closed
   pointer arrow|hourglass         only when it changes
   print begin                     the page is 11906 by 16838 twips
   print text X Y "font" SIZE "text"

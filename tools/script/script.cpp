@@ -20,7 +20,8 @@ std::string_view without_comment(std::string_view line) {
 
 }  // namespace
 
-Script::Script(std::ostream& out, std::ostream& errors) : out_(out), desktop_(out, errors) {
+Script::Script(std::ostream& out, std::ostream& errors)
+    : out_(out), desktop_(out, errors), about_printer_(out) {
   desktop_.set_events([this] { schedule_.search_step(window_->searches_running); });
 }
 
@@ -52,6 +53,7 @@ void Script::start(const std::string& command_line) {
   window_.reset();
   desktop_.forget_pointer();
   window_ = std::make_unique<MainWindow>(desktop_);
+  about_printer_.listen_to(*window_);
   window_->start(command_line);
   window_->finish_start();
 }

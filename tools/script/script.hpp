@@ -8,6 +8,7 @@
 #include <memory>
 #include <string_view>
 
+#include "tools/script/about_printer.hpp"
 #include "tools/script/arguments.hpp"
 #include "tools/script/schedule.hpp"
 #include "tools/script/script_desktop.hpp"
@@ -51,6 +52,7 @@ class Script {
   std::ostream& out_;
   ScriptDesktop desktop_;
   Schedule schedule_;
+  AboutPrinter about_printer_;
   std::unique_ptr<MainWindow> window_;
   std::filesystem::path first_folder_ = std::filesystem::current_path();
   bool ended_ = false, faulty_ = false;

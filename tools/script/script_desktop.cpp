@@ -122,6 +122,12 @@ std::uint32_t ScriptDesktop::random_seed() {
   return settings.seed ? *settings.seed : PlatformDesktop::random_seed();
 }
 
+int ScriptDesktop::year() { return settings.year ? *settings.year : PlatformDesktop::year(); }
+
+void ScriptDesktop::open_document(const std::string& document_or_address) {
+  out_ << "open " << in_quotes(document_or_address) << '\n';
+}
+
 std::filesystem::path ScriptDesktop::data_folder() {
   const auto folder = data_home() / "SuDoKu";
   std::error_code failure;

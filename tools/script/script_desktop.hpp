@@ -53,6 +53,8 @@ class ScriptDesktop final : public PlatformDesktop {
   PageSize printer_page() override;
   void print(const Page& page) override;
   std::uint32_t random_seed() override;
+  int year() override;
+  void open_document(const std::string& document_or_address) override;
   std::filesystem::path data_folder() override;
   std::filesystem::path program_folder() override;
   void report_error(const std::string& line) override;

@@ -24,6 +24,7 @@ class YesDesktop : public PlatformDesktop {
   void set_pointer(Pointer) override {}
   void let_events_run() override {}
   void set_clipboard(const std::string&) override {}
+  void open_document(const std::string&) override {}
   PageSize printer_page() override;
   void print(const Page&) override {}
   std::uint32_t random_seed() override { return 0; }

@@ -3,10 +3,12 @@
 
 #include "ui/qt/command_bar.hpp"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/messages.hpp"
 #include "ui/qt/icons.hpp"
@@ -76,9 +78,18 @@ QToolButton* CommandBar::make_button(Control control, const char* name, const ch
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);
+  button->installEventFilter(this);
   connect(button, &QToolButton::clicked, this, [this, control] { emit clicked(control); });
   buttons_.push_back({control, button});
   return button;
+}
+
+/// Sees the events of the buttons.
+bool CommandBar::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::FocusOut) return false;
+  const auto left = std::ranges::find(buttons_, watched, &Button::widget);
+  if (left != buttons_.end()) emit focus_lost(left->control);
+  return false;
 }
 
 void CommandBar::show_state(const MainWindow& window) {

@@ -23,8 +23,12 @@ class CommandBar : public QWidget {
   /// Shows texts and visibility as `window` has them. A hidden button keeps its place.
   void show_state(const MainWindow& window);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   void clicked(Control button);
+  void focus_lost(Control button);
 
  private:
   struct Button {

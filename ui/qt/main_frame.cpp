@@ -63,6 +63,8 @@ MainFrame::~MainFrame() { window_.set_listener(nullptr); }
 void MainFrame::connect_bars() {
   connect(commands_, &CommandBar::clicked, this,
           [this](Control button) { guard_.run([&] { window_.click(button); }); });
+  connect(commands_, &CommandBar::focus_lost, this,
+          [this](Control button) { guard_.run([&] { window_.focus_lost(button); }); });
   connect(options_, &OptionBar::ticked, this,
           [this](Control box, bool on) { guard_.run([&] { window_.check(box, on); }); });
   connect(options_, &OptionBar::level_chosen, this,
@@ -116,6 +118,27 @@ void MainFrame::lines_drawn() { lines_->redraw(); }
 
 void MainFrame::focus_changed() {
   if (window_.focus() == Control::MSF) msf_->setFocus();
+}
+
+void MainFrame::about_changed() {
+  close_about();
+  if (window_.about().shown()) open_about();
+}
+
+void MainFrame::close_about() {
+  if (!about_) return;
+  about_->hide();
+  about_->deleteLater();  // it may be in the middle of an event
+  about_ = nullptr;
+}
+
+void MainFrame::open_about() {
+  about_ = new AboutDialog(window_.about(), this);
+  connect(about_, &AboutDialog::clicked, this,
+          [this](AboutControl control) { guard_.run([&] { window_.click_about(control); }); });
+  connect(about_, &AboutDialog::dismissed, this,
+          [this] { guard_.run([&] { window_.close_about(); }); });
+  about_->open();
 }
 
 void MainFrame::refresh() {

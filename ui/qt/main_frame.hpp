@@ -5,9 +5,11 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 #include <QWidget>
 
 #include "ui/main_window.hpp"
+#include "ui/qt/about_dialog.hpp"
 #include "ui/qt/command_bar.hpp"
 #include "ui/qt/deferred_call.hpp"
 #include "ui/qt/grid_view.hpp"
@@ -39,12 +41,15 @@ class MainFrame : public QWidget, private WindowListener {
   void layout_changed() override;
   void lines_drawn() override;
   void focus_changed() override;
+  void about_changed() override;
   void refresh() override;
 
   void connect_bars();
   void connect_grids();
   void watch_application();
 
+  void open_about();
+  void close_about();
   void show_state();
   void show_grid_names();
   void place_widgets();
@@ -59,6 +64,7 @@ class MainFrame : public QWidget, private WindowListener {
   GridView* msr_;
   OptionBar* options_;
   LineOverlay* lines_;
+  AboutDialog* about_ = nullptr;  ///< exists while the box is shown
   DeferredCall update_;
   bool session_ends_ = false;
 };

@@ -5,10 +5,12 @@
 
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include "grid/errors.hpp"
 #include "ui/qt/printing_service.hpp"
@@ -107,6 +109,12 @@ void QtDesktop::set_clipboard(const std::string& text) {
 PageSize QtDesktop::printer_page() { return default_printer_page(); }
 
 void QtDesktop::print(const Page& page) { print_on_default_printer(page); }
+
+void QtDesktop::open_document(const std::string& document_or_address) {
+  const QUrl url = QUrl::fromUserInput(QString::fromStdString(document_or_address));
+  if (!QDesktopServices::openUrl(url))
+    throw RuntimeError(document_or_address, "no program opens it");
+}
 
 std::filesystem::path QtDesktop::data_folder() {
   const std::filesystem::path folder =

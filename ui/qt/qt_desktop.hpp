@@ -35,6 +35,7 @@ class QtDesktop final : public PlatformDesktop {
   PageSize printer_page() override;
   void print(const Page& page) override;
   std::filesystem::path data_folder() override;
+  void open_document(const std::string& document_or_address) override;
 
  private:
   std::string chosen_file(QFileDialog& dialog, const std::string& filter);

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/about_dialog.hpp"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "grid/globals.hpp"
+#include "ui/qt/about_label.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr int large = 20, normal = 12, small = 9;  // points
+
+QVBoxLayout* make_rows() {
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(6);
+  return rows;
+}
+
+}  // namespace
+
+AboutDialog::AboutDialog(const About& about, QWidget* parent) : QDialog(parent), about_(about) {
+  setObjectName("about");
+  setWindowTitle(QString::fromStdString(globals.Messages[6]));
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(20, 20, 28, 16);
+  columns->setSpacing(28);
+  columns->addLayout(make_picture());
+  columns->addLayout(make_credits());
+  columns->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QLayout* AboutDialog::make_picture() {
+  QVBoxLayout* rows = make_rows();
+  auto* picture = put(new PictureLabel, AboutControl::Picture, "Picture");
+  auto* caption = make_text(AboutControl::Picture, "PictureCaption", small);
+  picture->setAccessibleName(caption->text());
+  caption->setAlignment(Qt::AlignHCenter);
+  rows->addWidget(picture);
+  rows->addWidget(caption);
+  return rows;
+}
+
+QLayout* AboutDialog::make_credits() {
+  QVBoxLayout* rows = make_rows();
+  rows->addStretch(2);
+  rows->addWidget(make_text(AboutControl::lblVersion, "lblVersion", large));
+  rows->addSpacing(24);
+  rows->addWidget(make_text(AboutControl::Label2, "Label2", small));
+  rows->addWidget(make_link(), 0, Qt::AlignLeft);
+  rows->addStretch(3);
+  rows->addWidget(make_text(AboutControl::lblCopyright, "lblCopyright", small));
+  return rows;
+}
+
+AboutLabel* AboutDialog::put(AboutLabel* label, AboutControl control, const char* name) {
+  label->setObjectName(name);
+  connect(label, &AboutLabel::clicked, this, [this, control] { emit clicked(control); });
+  return label;
+}
+
+AboutLabel* AboutDialog::make_text(AboutControl control, const char* name, int points) {
+  auto* label = put(new AboutLabel, control, name);
+  label->setFont(QFont("Arial", points));
+  label->setText(QString::fromStdString(about_.text(control)));
+  return label;
+}
+
+AboutLabel* AboutDialog::make_link() {
+  auto* link = make_text(AboutControl::Label1, "Label1", normal);
+  QFont underlined = link->font();
+  underlined.setUnderline(true);
+  link->setFont(underlined);
+  link->setForegroundRole(QPalette::Link);
+  link->setCursor(Qt::PointingHandCursor);
+  return link;
+}
+
+void AboutDialog::keyPressEvent(QKeyEvent*) { emit dismissed(); }
+
+void AboutDialog::mousePressEvent(QMouseEvent*) { emit dismissed(); }
+
+void AboutDialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  emit dismissed();
+}
+
+}  // namespace sdk
