@@ -25,7 +25,7 @@ class CompanionSolver : public testing::Test {
     return grid;
   }
 
-  const KeptFolder kept;
+  KeptFolder kept;
   Game game;
   MainWindow& w = game.window;
   FakeDesktop& desktop = game.desktop;

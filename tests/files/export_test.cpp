@@ -35,7 +35,7 @@ class Export : public testing::Test {
           static_cast<std::int16_t>(solution[static_cast<std::size_t>(k - 1)] - '0');
   }
 
-  const KeptFolder kept;
+  KeptFolder kept;
   ScratchFolder folder;
   Game game;
   MainWindow& w = game.window;

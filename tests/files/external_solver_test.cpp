@@ -50,7 +50,7 @@ class ExternalSolver : public testing::Test {
   bool has_input() { return fs::exists(tmp() / "00000.000"); }
   bool has_output() { return fs::exists(tmp() / "out.000"); }
 
-  const KeptFolder kept;
+  KeptFolder kept;
   Game game;
   MainWindow& w = game.window;
   FakeDesktop& desktop = game.desktop;
@@ -308,7 +308,7 @@ class OddDesktop : public FakeDesktop {
 };
 
 TEST(ExternalSolverPaths, MayHoldBlanksQuotesAndSigns) {
-  const KeptFolder kept;
+  KeptFolder kept;
   OddDesktop desktop;
   const Variable variable("tmp", desktop.temporary_folder());
   fs::copy_file(STAND_INS "/keeps_input.sh", desktop.program_folder() / "zolv.exe");

@@ -45,7 +45,7 @@ class Opening : public testing::Test {
     return -1;
   }
 
-  const KeptFolder kept;
+  KeptFolder kept;
   ScratchFolder folder;
   const fs::path file = folder / "my puzzle.sdk";
   Game game;

@@ -162,7 +162,7 @@ TEST(TemporaryFolder, OfThePlayersOwnIsLeftAtTheEnd) {
 }
 
 TEST(TemporaryFolder, ThatIsPrivateIsFoundByTheSolver) {
-  const KeptFolder kept;
+  KeptFolder kept;
   const Variable tmp("tmp", std::nullopt);
   PlainDesktop desktop;
   fs::copy_file(STAND_INS "/keeps_input.sh", desktop.program_folder() / "zolv.exe");
@@ -175,7 +175,7 @@ TEST(TemporaryFolder, ThatIsPrivateIsFoundByTheSolver) {
 }
 
 TEST(TemporaryFolder, IsNotMadeWithoutASolver) {
-  const KeptFolder kept;
+  KeptFolder kept;
   const Variable tmp("tmp", std::nullopt);
   PlainDesktop desktop;
   MainWindow w(desktop);
@@ -187,7 +187,7 @@ TEST(TemporaryFolder, IsNotMadeWithoutASolver) {
 }
 
 TEST(TemporaryFolder, ThatCannotBeMadeEndsTheSolveSilently) {
-  const KeptFolder kept;
+  KeptFolder kept;
   const Variable tmp("tmp", std::nullopt);
   PlainDesktop desktop;
   fs::copy_file(STAND_INS "/digits.sh", desktop.program_folder() / "zolv.exe");

@@ -113,7 +113,7 @@ TEST_F(Reading, TakesQuotesOutOfTheName) {
 }
 
 TEST_F(Reading, TakesANameRelativeToTheCurrentFolder) {
-  const KeptFolder kept;
+  KeptFolder kept;
   fs::current_path(folder.path());
   write_file(folder / "b c's.sdk", cells);
   ouvrir("b c's.sdk");

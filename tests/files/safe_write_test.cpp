@@ -63,7 +63,7 @@ TEST_F(SafeWrite, ReplacesLongerAndShorterContents) {
 }
 
 TEST_F(SafeWrite, TakesAPathRelativeToTheCurrentFolder) {
-  const KeptFolder kept;
+  KeptFolder kept;
   fs::current_path(folder.path());
   save("b.sdk", "new");
   EXPECT_EQ(bytes_of(folder / "b.sdk"), "new");

@@ -43,7 +43,7 @@ class StartWithFile : public testing::Test {
     EXPECT_EQ(w.control(Control::Label).caption, " 77 indices");
   }
 
-  const KeptFolder kept;
+  KeptFolder kept;
   ScratchFolder folder;
   const fs::path file = folder / "my puzzle.sdk";
   FakeDesktop desktop;
