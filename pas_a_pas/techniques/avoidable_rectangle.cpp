@@ -7,6 +7,7 @@
 #include <array>
 
 #include "pas_a_pas/helpers.hpp"
+#include "pas_a_pas/techniques/rectangles.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"
 
@@ -53,13 +54,13 @@ bool fires_at(const OpenRectangle& corners, int x, int y) {
 }
 
 /// Three solved corners at least; all other rectangles are left at once.
-bool could_fire(const std::array<Cell, 4>& corners) {
+bool could_fire(const Corners& corners) {
   int solved = 0;
   for (const Cell corner : corners) solved += solver.Candidats.value(corner) != 0;
   return solved >= 3;
 }
 
-bool fires_on(const std::array<Cell, 4>& corners) {
+bool fires_on(const Corners& corners) {
   if (!could_fire(corners)) return false;
   const auto& [p, q, r, s] = corners;
   for (int x = 1; x <= 8; ++x)
@@ -70,21 +71,8 @@ bool fires_on(const std::array<Cell, 4>& corners) {
   return false;
 }
 
-bool fires_between(int row1, int row2) {
-  for (int column1 = 1; column1 <= 8; ++column1)
-    for (int column2 = column1 + 1; column2 <= 9; ++column2)
-      if (fires_on({{{row1, column1}, {row1, column2}, {row2, column1}, {row2, column2}}}))
-        return true;
-  return false;
-}
-
 }  // namespace
 
-Bool16 rectangle_evitable() {
-  for (int row1 = 1; row1 <= 8; ++row1)
-    for (int row2 = row1 + 1; row2 <= 9; ++row2)
-      if (fires_between(row1, row2)) return true;
-  return false;
-}
+Bool16 rectangle_evitable() { return some_rectangle(fires_on); }
 
 }  // namespace sdk

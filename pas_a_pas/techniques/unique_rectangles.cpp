@@ -8,6 +8,7 @@
 #include <array>
 
 #include "pas_a_pas/helpers.hpp"
+#include "pas_a_pas/techniques/rectangles.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"
 
@@ -21,7 +22,7 @@ enum Corner : std::size_t { P, Q, R, S };
 constexpr Corner opposite(Corner corner) { return static_cast<Corner>(S - corner); }
 
 struct Rectangle {
-  std::array<Cell, 4> corners;
+  Corners corners;
   int x, y;
 
   Cell cell(Corner corner) const { return corners[corner]; }
@@ -193,7 +194,7 @@ bool fires(const Rectangle& rectangle) {
          rule5(rectangle);
 }
 
-bool fires_on(const std::array<Cell, 4>& corners) {
+bool fires_on(const Corners& corners) {
   NineSet common = NineSet::all();
   for (const Cell corner : corners) common = common & solver.Candidats.digits(corner);
   for (const int x : common)
@@ -202,21 +203,8 @@ bool fires_on(const std::array<Cell, 4>& corners) {
   return false;
 }
 
-bool fires_between(int row1, int row2) {
-  for (int column1 = 1; column1 <= 8; ++column1)
-    for (int column2 = column1 + 1; column2 <= 9; ++column2)
-      if (fires_on({{{row1, column1}, {row1, column2}, {row2, column1}, {row2, column2}}}))
-        return true;
-  return false;
-}
-
 }  // namespace
 
-Bool16 rectangles_uniques() {
-  for (int row1 = 1; row1 <= 8; ++row1)
-    for (int row2 = row1 + 1; row2 <= 9; ++row2)
-      if (fires_between(row1, row2)) return true;
-  return false;
-}
+Bool16 rectangles_uniques() { return some_rectangle(fires_on); }
 
 }  // namespace sdk

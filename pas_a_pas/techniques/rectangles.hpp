@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The scan that the techniques on rectangles share.
+#pragma once
+
+#include <array>
+
+#include "pas_a_pas/cells.hpp"
+
+namespace sdk {
+
+/// The corners of a rectangle: P and Q in its upper row, R and S below them.
+using Corners = std::array<Cell, 4>;
+
+/// Calls `fires_on` with every rectangle of the grid until one call returns true; tells whether one
+/// did. The upper row varies slowest, then the lower row, the left and the right column.
+template <class Technique>
+bool some_rectangle(Technique fires_on) {
+  for (int row1 = 1; row1 <= 8; ++row1)
+    for (int row2 = row1 + 1; row2 <= 9; ++row2)
+      for (int column1 = 1; column1 <= 8; ++column1)
+        for (int column2 = column1 + 1; column2 <= 9; ++column2)
+          if (fires_on(
+                  Corners{{{row1, column1}, {row1, column2}, {row2, column1}, {row2, column2}}}))
+            return true;
+  return false;
+}
+
+}  // namespace sdk
