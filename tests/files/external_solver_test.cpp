@@ -19,12 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* puzzle =
-    "987654321\n1.5927468\n642138579\n426571983\n793482156\n518396742\n371865294\n2697438.5\n"
-    ".5421963.\n";
-/// What every good stand-in answers.
-constexpr const char* solution =
-    "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
 /// Of an earlier puzzle.
 const std::string old_solution(81, '5');
 constexpr const char* empty_cells = "r2c2 r8c8 r9c1 r9c9";

@@ -11,6 +11,14 @@
 
 namespace sdk::test {
 
+/// A puzzle that every search solves within a few hundred steps, and its solution, which is what
+/// every good stand-in of the external solver answers.
+inline constexpr const char* puzzle =
+    "987654321\n1.5927468\n642138579\n426571983\n793482156\n518396742\n371865294\n2697438.5\n"
+    ".5421963.\n";
+inline constexpr const char* solution =
+    "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
+
 /// A fresh folder, removed at the end with all that is in it. Everybody may enter it.
 class ScratchFolder {
  public:
