@@ -3,6 +3,8 @@
 
 // Hidden pairs: two digits with the same two places in a unit leave no room there for others.
 
+#include <algorithm>
+
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"
@@ -46,10 +48,6 @@ bool fires_in(Unit unit) {
 
 }  // namespace
 
-Bool16 hidden_pairs() {
-  for (const Unit unit : all_units)
-    if (fires_in(unit)) return true;
-  return false;
-}
+Bool16 hidden_pairs() { return std::ranges::any_of(all_units, fires_in); }
 
 }  // namespace sdk

@@ -3,6 +3,8 @@
 
 // Hidden triples and quads: n digits with only n places in a unit leave no room there for others.
 
+#include <algorithm>
+
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/combinations.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
@@ -53,9 +55,7 @@ bool fires_in(Unit unit, int size) {
 }
 
 bool fires(int size) {
-  for (const Unit unit : all_units)
-    if (fires_in(unit, size)) return true;
-  return false;
+  return std::ranges::any_of(all_units, [size](Unit unit) { return fires_in(unit, size); });
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 // Naked pairs: two cells of a unit with the same two candidates share them out among themselves.
 
+#include <algorithm>
+
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"
@@ -54,10 +56,6 @@ bool fires_in(Unit unit) {
 
 }  // namespace
 
-Bool16 naked_pairs() {
-  for (const Unit unit : all_units)
-    if (fires_in(unit)) return true;
-  return false;
-}
+Bool16 naked_pairs() { return std::ranges::any_of(all_units, fires_in); }
 
 }  // namespace sdk

@@ -4,6 +4,8 @@
 // Naked triples and quads: n cells of a unit that hold only n digits share these out among
 // themselves.
 
+#include <algorithm>
+
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/combinations.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
@@ -71,9 +73,7 @@ bool fires_in(Unit unit, int size) {
 }
 
 bool fires(int size) {
-  for (const Unit unit : all_units)
-    if (fires_in(unit, size)) return true;
-  return false;
+  return std::ranges::any_of(all_units, [size](Unit unit) { return fires_in(unit, size); });
 }
 
 }  // namespace

@@ -10,10 +10,12 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
+#include <thread>
 
 #include "files/external_solver.hpp"
 #include "tests/files/machine.hpp"
@@ -26,10 +28,9 @@ namespace fs = std::filesystem;
 
 class Process : public testing::Test {
  protected:
-  /// Waits for its end as the game does.
+  /// Waits for its end, and leaves the processor to it meanwhile.
   static void wait_for(std::uint32_t id) {
-    while (ProcessusActif(id)) {
-    }
+    while (ProcessusActif(id)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   static bool has_children() { return waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD; }
 
