@@ -20,6 +20,13 @@ struct DisplayCell {
   Colour back_colour = colour::white;
   int font_size = 0;  ///< in points; 0 is the grid's own size
   int mark = 0;       ///< the last mark mode given to the cell, 0..6
+
+  /// A coloured background is all that tells a given of the puzzle from a player's cell.
+  bool is_given() const { return back_colour != colour::white; }
+  /// Red is all that tells a wrong value; in an empty cell it does not show.
+  bool is_wrong() const {
+    return text_colour == colour::red && text.find_first_not_of(' ') != std::string::npos;
+  }
 };
 
 /// A block of cells, both ends included.

@@ -123,7 +123,7 @@ namespace {
 
 Colour verdict(const DisplayCell& cell, std::string_view solution) {
   if (solution != cell.text) return colour::red;
-  return cell.back_colour == colour::white ? colour::green : colour::black;
+  return cell.is_given() ? colour::black : colour::green;
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the system packages that are missing for what is to be done.
-#   scripts/setup.sh SET...    with SET one of: play picture test bench check fuzz
+#   scripts/setup.sh SET...    with SET one of: play picture test bench check package fuzz
 # With everything there it only asks the package database, and changes nothing.
 # SUDOKU_SETUP=skip leaves the packages to you.
 set -euo pipefail
@@ -13,9 +13,10 @@ packages_for() {
     play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev \
       qt6-translations-l10n ;;
     picture) echo xvfb netpbm ;;
-    test) echo libgtest-dev ;;
+    test) echo libgtest-dev qt6-base-private-dev ;;
     bench) echo libbenchmark-dev xvfb ;;
     check) echo clang-format ;;
+    package) echo dpkg-dev file ;;
     fuzz) echo clang libclang-rt-dev ;;
     *) echo "scripts/setup.sh: no set of packages is called $1" >&2 && return 1 ;;
   esac

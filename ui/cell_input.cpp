@@ -19,10 +19,7 @@ char digit_of(int code) {
   return 0;
 }
 
-/// A given is recognised by its coloured background.
-bool may_change(const DisplayCell& cell) {
-  return cell.back_colour == colour::white || !globals.ProtegeGrille;
-}
+bool may_change(const DisplayCell& cell) { return !cell.is_given() || !globals.ProtegeGrille; }
 
 }  // namespace
 

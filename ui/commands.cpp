@@ -107,7 +107,7 @@ void MainWindow::clear() {
       for (int c = 0; c < DisplayGrid::size; ++c) {
         MSF.make_current(r, c);
         if (!globals.ProtegeGrille) MSF.set_back_colour(colour::white);
-        if (MSF.current().back_colour == colour::white) MSF.set_text(" ");
+        if (!MSF.current().is_given()) MSF.set_text(" ");
       }
     maj_indices();
   }

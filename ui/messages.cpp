@@ -57,7 +57,7 @@ constexpr std::array<Text, 35> messages{{
 }};
 
 /// In the order of Notice.
-constexpr std::array<Text, 11> notices{{
+constexpr std::array<Text, 21> notices{{
     {"SuDoKu doit s'arrêter (%1)", "SuDoKu has to stop (%1)"},
     {"SuDoKu doit s'arrêter (%1). La grille est sauvée dans %2",
      "SuDoKu has to stop (%1). The grid was saved in %2"},
@@ -69,6 +69,16 @@ constexpr std::array<Text, 11> notices{{
     {"Candidats", "Candidates"},
     {"Niveau", "Level"},
     {"Suggestion", "Hint"},
+    {"donné", "given"},
+    {"faux", "wrong"},
+    {"placé", "placed"},
+    {"réduit", "reduced"},
+    {"motif", "pattern"},
+    {"second motif", "second pattern"},
+    {"ligne %1", "row %1"},
+    {"colonne %1", "column %1"},
+    {"Commandes", "Commands"},
+    {"Options", "Options"},
     {"l'équipe SuDoKu", "the SuDoKu team"},
     {"Copyright © l'équipe SuDoKu %1", "Copyright © the SuDoKu team %1"},
 }};

@@ -25,6 +25,16 @@ enum class Notice {
   candidates,       ///< accessible name of `MSR`
   level,            ///< accessible name of `Niveau`
   hint,             ///< accessible name and tooltip of `Command8`
+  given,            ///< accessible state of a cell: it belongs to the puzzle
+  wrong,            ///< accessible state of a cell: its value is shown in red
+  placed,           ///< accessible state of a cell of `MSR`: a value, not its only candidate
+  reduced,          ///< accessible state of a cell of `MSR`: a hint removed candidates
+  pattern,          ///< accessible state of a cell of `MSR`: why a hint is right
+  second_pattern,   ///< the same, of a cell marked apart from the others
+  row,              ///< accessible name of a row: %1 the row, 1-based
+  column,           ///< accessible name of a column: %1 the column, 1-based
+  commands,         ///< accessible name of the buttons as a whole
+  options,          ///< accessible name of the options as a whole
   author,           ///< who made the game
   rights,           ///< notice of rights: %1 the year
 };

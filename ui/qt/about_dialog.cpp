@@ -3,12 +3,14 @@
 
 #include "ui/qt/about_dialog.hpp"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "grid/globals.hpp"
 #include "ui/qt/about_label.hpp"
+#include "ui/qt/accessibility.hpp"
 
 namespace sdk {
 
@@ -66,19 +68,29 @@ AboutLabel* AboutDialog::put(AboutLabel* label, AboutControl control, const char
 
 AboutLabel* AboutDialog::make_text(AboutControl control, const char* name, int points) {
   auto* label = put(new AboutLabel, control, name);
-  label->setFont(QFont("Arial", points));
-  label->setText(QString::fromStdString(about_.text(control)));
+  write(*label, control, QFont("Arial", points));
   return label;
 }
 
+void AboutDialog::write(AboutLabel& label, AboutControl control, const QFont& font) {
+  label.setFont(font);
+  label.setText(QString::fromStdString(about_.text(control)));
+}
+
 AboutLabel* AboutDialog::make_link() {
-  auto* link = make_text(AboutControl::Label1, "Label1", normal);
-  QFont underlined = link->font();
+  auto* link = put(new LinkLabel, AboutControl::Label1, "Label1");
+  QFont underlined("Arial", normal);
   underlined.setUnderline(true);
-  link->setFont(underlined);
-  link->setForegroundRole(QPalette::Link);
-  link->setCursor(Qt::PointingHandCursor);
+  write(*link, AboutControl::Label1, underlined);
+  set_accessible_name(*link, link->text());
   return link;
+}
+
+/// A screen reader reads the whole box, as it does a message box.
+void AboutDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 void AboutDialog::keyPressEvent(QKeyEvent*) { emit dismissed(); }

@@ -28,6 +28,7 @@ class AboutDialog : public QDialog {
   void dismissed();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -38,6 +39,8 @@ class AboutDialog : public QDialog {
   /// `label` as the widget of that control.
   AboutLabel* put(AboutLabel* label, AboutControl control, const char* name);
   AboutLabel* make_text(AboutControl control, const char* name, int points);
+  /// `label` with the text of its control.
+  void write(AboutLabel& label, AboutControl control, const QFont& font);
   AboutLabel* make_link();
 
   const About& about_;

@@ -19,6 +19,11 @@ void AboutLabel::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->pos())) emit clicked();
 }
 
+LinkLabel::LinkLabel() {
+  setForegroundRole(QPalette::Link);
+  setCursor(Qt::PointingHandCursor);
+}
+
 PictureLabel::PictureLabel() {
   add_pictures_to_the_program();
   picture_.load(QString(":/pictures/woman_with_hat.svg"));

@@ -25,8 +25,18 @@ class AboutLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
+/// A label that looks and is told like a link.
+class LinkLabel : public AboutLabel {
+  Q_OBJECT
+
+ public:
+  LinkLabel();
+};
+
 /// The picture, sharp on every screen.
 class PictureLabel : public AboutLabel {
+  Q_OBJECT
+
  public:
   PictureLabel();
 

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ui/messages.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/icons.hpp"
 
 namespace sdk {
@@ -42,9 +42,9 @@ constexpr ButtonLook button_looks[] = {
 constexpr int icon_side = 28;
 constexpr int button_side = 46;
 
-std::string name_for_player(const MainWindow& window, Control button) {
+QString name_for_player(const MainWindow& window, Control button) {
   const std::string& tooltip = window.control(button).tooltip;
-  return tooltip.empty() ? notice(Notice::hint, globals.Langue) : tooltip;
+  return tooltip.empty() ? notice_text(Notice::hint) : QString::fromStdString(tooltip);
 }
 
 }  // namespace
@@ -93,12 +93,13 @@ bool CommandBar::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void CommandBar::show_state(const MainWindow& window) {
+  set_accessible_name(*this, notice_text(Notice::commands));
   title_->setText(QString::fromStdString(window.control(Control::Label3).caption));
   title_->setVisible(window.visible(Control::Label3));
   for (const auto& [control, button] : buttons_) {
-    const QString name = QString::fromStdString(name_for_player(window, control));
+    const QString name = name_for_player(window, control);
     button->setToolTip(name);
-    button->setAccessibleName(name);
+    set_accessible_name(*button, name);
     button->setVisible(window.visible(control));
   }
 }

@@ -6,24 +6,14 @@
 #include "grid/globals.hpp"
 #include "ui/messages.hpp"
 #include "ui/qt/cell_painter.hpp"
+#include "ui/spoken_cell.hpp"
 
 namespace sdk {
 
 namespace {
 
-/// The digits of a cell with single blanks between them; what else a text holds is decoration.
-QString spoken_content(const std::string& text) {
-  QString content = to_qstring(text);
-  content.replace('.', ' ').replace(',', ' ');
-  content = content.simplified();
-  return content.isEmpty() ? QString::fromStdString(notice(Notice::empty, globals.Langue))
-                           : content;
-}
-
 QString spoken(const DisplayGrid& grid, int row, int column) {
-  const std::string place =
-      notice(Notice::cell, globals.Langue, std::to_string(row + 1), std::to_string(column + 1));
-  return QString::fromStdString(place) + ": " + spoken_content(grid.text(row, column));
+  return QString::fromStdString(spoken_cell(grid, row, column, globals.Langue));
 }
 
 }  // namespace
@@ -52,6 +42,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::AccessibleTextRole) return {};
+  const Notice line = orientation == Qt::Vertical ? Notice::row : Notice::column;
+  return QString::fromStdString(notice(line, globals.Langue, std::to_string(section + 1)));
 }
 
 void GridModel::announce_change() {

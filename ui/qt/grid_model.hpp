@@ -17,8 +17,10 @@ class GridModel : public QAbstractTableModel {
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// The text to show, the two colours, and the accessible text: row, column and content.
+  /// The text to show, the two colours, and the accessible text of spoken_cell.
   QVariant data(const QModelIndex& index, int role) const override;
+  /// The accessible names of rows and columns; their headers are not on screen.
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   /// Tells the views that any cell may have changed.
   void announce_change();

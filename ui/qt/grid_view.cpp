@@ -9,6 +9,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/key_codes.hpp"
@@ -52,7 +53,9 @@ GridView::GridView(DisplayGrid& grid, GridLook look, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
       model_(grid, nullptr),
-      update_(*this, [this] { follow_grid(); }) {
+      update_(*this, [this] { follow_grid(); }),
+      announcer_(*this),
+      tell_focus_(*this, [this] { announcer_.announce_focus(); }) {
   set_up_table();
   setModel(&model_);
   setItemDelegate(new CellDelegate(grid, look, this));
@@ -75,7 +78,17 @@ void GridView::set_up_table() {
   setTabKeyNavigation(false);
 }
 
-void GridView::cell_changed(int, int) { update_.ask(); }
+void GridView::set_accessible_name(const QString& name) {
+  if (name == accessibleName()) return;
+  setAccessibleName(name);
+  cells_changed_ = true;
+  update_.ask();
+}
+
+void GridView::cell_changed(int, int) {
+  cells_changed_ = true;
+  update_.ask();
+}
 
 void GridView::selection_changed() { update_.ask(); }
 
@@ -90,8 +103,13 @@ void GridView::follow_grid() {
   set_tab_stop();
   setUpdatesEnabled(grid_.visible());
   select_as_grid();
-  model_.announce_change();
+  if (std::exchange(cells_changed_, false)) announce_cells();
   viewport()->update();
+}
+
+void GridView::announce_cells() {
+  model_.announce_change();
+  announcer_.announce_changes();
 }
 
 void GridView::select_as_grid() {
@@ -110,7 +128,11 @@ void GridView::set_tab_stop() {
 }
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QTableView::currentChanged(current, previous);
+  // The table tells screen readers that the new current cell has the focus.
+  if (hasFocus())
+    QTableView::currentChanged(current, previous);
+  else
+    QAbstractItemView::currentChanged(current, previous);
   follow_view();
 }
 
@@ -194,6 +216,7 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event
 
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
+  tell_focus_.ask();  // after Qt told that the grid as a whole got it
   viewport()->update();
 }
 

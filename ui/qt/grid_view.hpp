@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "grid/display_grid.hpp"
+#include "ui/qt/cell_announcer.hpp"
 #include "ui/qt/cell_delegate.hpp"
 #include "ui/qt/deferred_call.hpp"
 #include "ui/qt/grid_model.hpp"
@@ -24,6 +25,9 @@ class GridView : public QTableView, private DisplayGridListener {
   /// Becomes the listener of `grid`, which must outlive the view.
   GridView(DisplayGrid& grid, GridLook look, QWidget* parent);
   ~GridView() override;
+
+  /// The grid's accessible name; the cells' accessible texts are taken to have changed with it.
+  void set_accessible_name(const QString& name);
 
  signals:
   /// A code of key_codes.hpp.
@@ -54,6 +58,7 @@ class GridView : public QTableView, private DisplayGridListener {
   void set_up_table();
   void go_to(const QModelIndex& index, bool extend);
   void follow_grid();
+  void announce_cells();
   void select_as_grid();
   void follow_view();
   void set_tab_stop();
@@ -61,6 +66,9 @@ class GridView : public QTableView, private DisplayGridListener {
   DisplayGrid& grid_;
   GridModel model_;
   DeferredCall update_;
+  CellAnnouncer announcer_;
+  DeferredCall tell_focus_;
+  bool cells_changed_ = true;
   bool following_grid_ = false;
 };
 

@@ -12,6 +12,8 @@ namespace sdk {
 
 /// Covers the whole window, lets the mouse through and always shows MainWindow::lines.
 class LineOverlay : public QWidget {
+  Q_OBJECT
+
  public:
   /// `window` must outlive the overlay.
   LineOverlay(const MainWindow& window, QWidget* parent);

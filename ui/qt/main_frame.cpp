@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <algorithm>
 
-#include "ui/messages.hpp"
+#include "ui/qt/accessibility.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/key_codes.hpp"
 #include "ui/qt/pixels.hpp"
@@ -48,7 +48,10 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       options_(new OptionBar(this)),
       lines_(new LineOverlay(window, this)),
       update_(*this, [this] { show_state(); }) {
+  install_accessible_roles();
   setObjectName("sudoku");
+  commands_->setObjectName("commands");
+  options_->setObjectName("options");
   lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
@@ -160,8 +163,8 @@ void MainFrame::show_state() {
 }
 
 void MainFrame::show_grid_names() {
-  msf_->setAccessibleName(QString::fromStdString(notice(Notice::puzzle, globals.Langue)));
-  msr_->setAccessibleName(QString::fromStdString(notice(Notice::candidates, globals.Langue)));
+  msf_->set_accessible_name(notice_text(Notice::puzzle));
+  msr_->set_accessible_name(notice_text(Notice::candidates));
 }
 
 void MainFrame::place_widgets() {

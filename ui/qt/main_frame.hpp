@@ -20,6 +20,8 @@
 namespace sdk {
 
 class MainFrame : public QWidget, private WindowListener {
+  Q_OBJECT
+
  public:
   /// Becomes the listener of `window`; `window` and `guard` must outlive the frame.
   MainFrame(MainWindow& window, ProgramGuard& guard);

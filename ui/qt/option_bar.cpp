@@ -11,7 +11,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "ui/messages.hpp"
+#include "ui/qt/accessibility.hpp"
 
 namespace sdk {
 
@@ -111,6 +111,7 @@ QLayout* OptionBar::make_level_row() {
 }
 
 void OptionBar::show_state(const MainWindow& window) {
+  set_accessible_name(*this, notice_text(Notice::options));
   for (const Box& box : boxes_) show_box(window, box);
   show_levels(window);
   count_->setText(QString::fromStdString(window.control(Control::Label).caption));
@@ -123,9 +124,16 @@ void OptionBar::show_box(const MainWindow& window, const Box& box) {
   const QSignalBlocker silent(box.widget);
   box.widget->setText(QString::fromStdString(state.caption));
   box.widget->setToolTip(QString::fromStdString(state.tooltip));
-  box.widget->setAccessibleName(QString::fromStdString(state.caption));
+  set_accessible_name(*box.widget, QString::fromStdString(state.caption));
   box.widget->setChecked(state.checked);
   box.widget->setVisible(state.visible);
+}
+
+/// A screen reader does not see a list's placeholder.
+void OptionBar::tell_placeholder() {
+  const bool shown = levels_->currentIndex() < 0;
+  const QString level = shown ? levels_->placeholderText() : QString();
+  if (levels_->accessibleDescription() != level) levels_->setAccessibleDescription(level);
 }
 
 void OptionBar::show_levels(const MainWindow& window) {
@@ -136,7 +144,8 @@ void OptionBar::show_levels(const MainWindow& window) {
   }
   levels_->setCurrentIndex(window.chosen_level().value_or(-1));
   levels_->setPlaceholderText(QString::fromStdString(window.level_text()));
-  levels_->setAccessibleName(QString::fromStdString(notice(Notice::level, globals.Langue)));
+  set_accessible_name(*levels_, notice_text(Notice::level));
+  tell_placeholder();
   levels_->setVisible(window.visible(Control::Niveau));
 }
 

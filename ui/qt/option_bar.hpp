@@ -44,6 +44,7 @@ class OptionBar : public QWidget {
   void take_colours();
   void show_box(const MainWindow& window, const Box& box);
   void show_levels(const MainWindow& window);
+  void tell_placeholder();
 
   std::vector<Box> boxes_;
   QComboBox* levels_ = nullptr;

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// What a screen reader says of the cells.
+
+#include "ui/spoken_cell.hpp"
+
+#include <gtest/gtest.h>
+
+#include "pas_a_pas/view.hpp"
+
+namespace sdk::test {
+namespace {
+
+class SpokenCell : public testing::Test {
+ protected:
+  /// The cell in the middle of the grid, as if the core had written it.
+  std::string spoken(const std::string& text, Colour text_colour, Colour back_colour,
+                     int mark = 0) {
+    grid.make_current(4, 4);
+    grid.set_text(text);
+    grid.set_text_colour(text_colour);
+    grid.set_back_colour(back_colour);
+    grid.set_mark(mark);
+    return spoken_cell(grid, 4, 4, "En");
+  }
+
+  DisplayGrid grid;
+};
+
+constexpr Colour yellow = colour::level[1];
+const std::string candidates = " 1  .  . \r .  5  . \r .  .  9 ";
+
+TEST_F(SpokenCell, TellsItsPlaceCountedFromOne) {
+  EXPECT_EQ(spoken_cell(grid, 0, 8, "En"), "row 1, column 9: empty");
+  EXPECT_EQ(spoken_cell(grid, 8, 0, "Fr"), "ligne 9, colonne 1: vide");
+}
+
+TEST_F(SpokenCell, TellsADigitOfThePlayersAlone) {
+  EXPECT_EQ(spoken("7", colour::green, colour::white), "row 5, column 5: 7");
+  EXPECT_EQ(spoken("7", colour::black, colour::white), "row 5, column 5: 7");
+}
+
+TEST_F(SpokenCell, TellsAGivenOfEveryLevelAndOfAFile) {
+  for (const Colour back : colour::level)
+    EXPECT_EQ(spoken("7", colour::black, back), "row 5, column 5: 7, given");
+  EXPECT_EQ(spoken("7", colour::black, colour::from_file), "row 5, column 5: 7, given");
+}
+
+TEST_F(SpokenCell, TellsAWrongDigit) {
+  EXPECT_EQ(spoken("7", colour::red, colour::white), "row 5, column 5: 7, wrong");
+  EXPECT_EQ(spoken("7", colour::red, yellow), "row 5, column 5: 7, wrong, given");
+}
+
+TEST_F(SpokenCell, TellsNothingWrongOfAnEmptyCell) {
+  EXPECT_EQ(spoken(" ", colour::red, colour::white), "row 5, column 5: empty");
+  EXPECT_EQ(spoken("", colour::red, colour::white), "row 5, column 5: empty");
+}
+
+TEST_F(SpokenCell, TellsThatAnErasedGivenIsStillProtected) {
+  EXPECT_EQ(spoken(" ", colour::black, yellow), "row 5, column 5: empty, given");
+}
+
+TEST_F(SpokenCell, TellsOtherCharactersOfAFileAsTheyAre) {
+  EXPECT_EQ(spoken("\xE9", colour::black, colour::from_file), "row 5, column 5: é, given");
+  EXPECT_EQ(spoken(".", colour::black, colour::from_file), "row 5, column 5: ., given");
+}
+
+TEST_F(SpokenCell, TellsCandidatesAsDigits) {
+  EXPECT_EQ(spoken(candidates, colour::black, colour::white), "row 5, column 5: 1 5 9");
+  EXPECT_EQ(spoken(" .  . \r . ", colour::black, colour::white), "row 5, column 5: empty");
+}
+
+TEST_F(SpokenCell, TellsWhatAHintMarked) {
+  EXPECT_EQ(spoken(candidates, colour::black, 0xFF00FF, mark::removed),
+            "row 5, column 5: 1 5 9, reduced");
+  EXPECT_EQ(spoken(candidates, colour::green, 0xC0FFC0, mark::support),
+            "row 5, column 5: 1 5 9, pattern");
+  EXPECT_EQ(spoken(candidates, colour::black, 0x00FFFF, mark::second),
+            "row 5, column 5: 1 5 9, second pattern");
+}
+
+TEST_F(SpokenCell, TellsAPlacedValueFromAnOnlyCandidate) {
+  EXPECT_EQ(spoken("5", colour::black, 0xE0E0E0, mark::value), "row 5, column 5: 5, placed");
+  EXPECT_EQ(spoken(" . \r 5 ", colour::black, 0xE0E0E0, mark::value), "row 5, column 5: 5");
+}
+
+TEST_F(SpokenCell, SpeaksFrench) {
+  spoken("7", colour::red, yellow);
+  EXPECT_EQ(spoken_cell(grid, 4, 4, "Fr"), "ligne 5, colonne 5: 7, faux, donné");
+}
+
+}  // namespace
+}  // namespace sdk::test
