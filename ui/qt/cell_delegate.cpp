@@ -13,15 +13,9 @@ namespace sdk {
 namespace {
 
 // The cells are light in every theme, so these colours do not follow the palette.
-constexpr QColor selection_tint(0x1c, 0x6d, 0xd0, 0x38);
 constexpr QColor focused_border(0x1c, 0x6d, 0xd0);
 constexpr QColor unfocused_border(0x80, 0x80, 0x80);
 constexpr int border_width = 3;
-
-bool contains(const CellRange& range, int row, int column) {
-  return row >= range.first_row && row <= range.last_row && column >= range.first_column &&
-         column <= range.last_column;
-}
 
 /// A border of one colour with a white one inside, so that it stands out on any background.
 void paint_border(QPainter& painter, const QRect& square, const QColor& colour) {
@@ -40,21 +34,26 @@ CellDelegate::CellDelegate(const DisplayGrid& grid, GridLook look, QObject* pare
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   painter->save();
-  paint_cell(*painter, option.rect, grid_.cell(index.row(), index.column()), look_.font_size);
   const bool focused = option.widget && option.widget->hasFocus();
-  if (grid_.marks_current() && (focused || look_.marks_without_focus))
-    paint_marks(*painter, option.rect, focused, index);
+  const bool marked = grid_.marks_current() && (focused || look_.marks_without_focus);
+  const bool current = is_current(index);
+  DisplayCell cell = grid_.cell(index.row(), index.column());
+  if (marked && !current && is_selected(index))
+    cell.back_colour = selected_background(cell.back_colour);
+  paint_cell(*painter, option.rect, cell, look_.font_size);
+  if (marked && current)
+    paint_border(*painter, option.rect, focused ? focused_border : unfocused_border);
   painter->restore();
 }
 
-void CellDelegate::paint_marks(QPainter& painter, const QRect& square, bool focused,
-                               const QModelIndex& index) const {
+bool CellDelegate::is_current(const QModelIndex& index) const {
+  return index.row() == grid_.current_row() && index.column() == grid_.current_column();
+}
+
+bool CellDelegate::is_selected(const QModelIndex& index) const {
   const CellRange range = grid_.selection();
-  const bool is_current =
-      index.row() == grid_.current_row() && index.column() == grid_.current_column();
-  if (!is_current && contains(range, index.row(), index.column()))
-    painter.fillRect(square, selection_tint);
-  if (is_current) paint_border(painter, square, focused ? focused_border : unfocused_border);
+  return index.row() >= range.first_row && index.row() <= range.last_row &&
+         index.column() >= range.first_column && index.column() <= range.last_column;
 }
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {

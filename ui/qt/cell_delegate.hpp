@@ -26,8 +26,8 @@ class CellDelegate : public QAbstractItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  private:
-  void paint_marks(QPainter& painter, const QRect& square, bool focused,
-                   const QModelIndex& index) const;
+  bool is_current(const QModelIndex& index) const;
+  bool is_selected(const QModelIndex& index) const;
 
   const DisplayGrid& grid_;
   GridLook look_;

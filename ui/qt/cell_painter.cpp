@@ -5,7 +5,10 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPolygon>
 #include <QStringList>
+
+#include "ui/qt/contrast.hpp"
 
 namespace sdk {
 
@@ -13,6 +16,9 @@ namespace {
 
 constexpr QColor thin_line(0, 0, 0, 56);
 constexpr int absent_candidate_alpha = 80;
+// The cells are light in every theme, so this colour does not follow the palette.
+constexpr QColor selection_tint(0x1c, 0x6d, 0xd0, 0x38);
+constexpr int large_text_points = 18;
 
 QFont font_of_size(int points) {
   QFont font = QGuiApplication::font();
@@ -45,12 +51,30 @@ void paint_candidates(QPainter& painter, const QRect& square, const QStringList&
                       lines[line].mid(column * entry_length, entry_length).trimmed(), colour);
 }
 
-void paint_text(QPainter& painter, const QRect& square, const DisplayCell& cell) {
-  const QColor colour = to_qcolor(cell.text_colour);
+/// Tells a wrong value from a right one without its colour.
+void paint_zigzag(QPainter& painter, const QRect& square, const QColor& colour) {
+  constexpr int top = 41, left = 12, step = 4, steps = 7, height = 4;
+  QPolygon zigzag;
+  for (int i = 0; i <= steps; ++i)
+    zigzag << QPoint(square.left() + left + i * step, square.top() + top + (i % 2) * height);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, 2));
+  painter.drawPolyline(zigzag);
+  painter.restore();
+}
+
+void paint_text(QPainter& painter, const QRect& square, const DisplayCell& cell,
+                const QColor& colour) {
   const QString text = to_qstring(cell.text);
   if (text.contains('\r')) return paint_candidates(painter, square, text.split('\r'), colour);
   painter.setPen(colour);
   painter.drawText(square, Qt::AlignCenter, text);
+  if (cell.is_wrong()) paint_zigzag(painter, square, colour);
+}
+
+int font_size_of(const DisplayCell& cell, int grid_font_size) {
+  return cell.font_size > 0 ? cell.font_size : grid_font_size;
 }
 
 }  // namespace
@@ -61,13 +85,28 @@ QColor to_qcolor(Colour colour) {
 
 QString to_qstring(const std::string& cell_text) { return QString::fromLatin1(cell_text); }
 
+Colour selected_background(Colour back) {
+  const auto mixed = [](int channel, int tint) {
+    return static_cast<Colour>(channel + (tint - channel) * selection_tint.alpha() / 255);
+  };
+  return mixed(colour::red_of(back), selection_tint.red()) |
+         mixed(colour::green_of(back), selection_tint.green()) << 8 |
+         mixed(colour::blue_of(back), selection_tint.blue()) << 16;
+}
+
+QColor drawn_text_colour(const DisplayCell& cell, int grid_font_size) {
+  const bool large = font_size_of(cell, grid_font_size) >= large_text_points;
+  return legible(to_qcolor(cell.text_colour), to_qcolor(cell.back_colour),
+                 large ? large_text_contrast : small_text_contrast);
+}
+
 void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
                 int grid_font_size) {
   painter.fillRect(square, to_qcolor(cell.back_colour));
   paint_thin_lines(painter, square);
   if (cell.text == " ") return;
-  painter.setFont(font_of_size(cell.font_size > 0 ? cell.font_size : grid_font_size));
-  paint_text(painter, square, cell);
+  painter.setFont(font_of_size(font_size_of(cell, grid_font_size)));
+  paint_text(painter, square, cell, drawn_text_colour(cell, grid_font_size));
 }
 
 void paint_puzzle(QPainter& painter, const DisplayGrid& puzzle) {

@@ -26,8 +26,14 @@ QColor to_qcolor(Colour colour);
 /// A cell's text, whose bytes are characters of the single-byte code page.
 QString to_qstring(const std::string& cell_text);
 
+/// The background of a selected cell.
+Colour selected_background(Colour back);
+/// The colour a cell's text is drawn in: its own, or where that would be too faint for the
+/// background and the size of the text, the nearest one that is not.
+QColor drawn_text_colour(const DisplayCell& cell, int grid_font_size);
+
 /// Paints one cell of side cell_side: background, thin lines and text. Three lines separated by
-/// character 13 become nine entries in three columns.
+/// character 13 become nine entries in three columns. A wrong value is underlined by a zigzag.
 void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
                 int grid_font_size);
 
