@@ -16,7 +16,8 @@ packages_for() {
     test) echo libgtest-dev qt6-base-private-dev ;;
     bench) echo libbenchmark-dev xvfb ;;
     check) echo clang-format ;;
-    package) echo dpkg-dev file ;;
+    package) echo dpkg-dev file lintian desktop-file-utils appstream shared-mime-info \
+      libglib2.0-bin man-db groff xdotool xclip ;;
     fuzz) echo clang libclang-rt-dev ;;
     *) echo "scripts/setup.sh: no set of packages is called $1" >&2 && return 1 ;;
   esac

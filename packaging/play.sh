@@ -1,0 +1,97 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 the SuDoKu team
+# SPDX-License-Identifier: MIT
+
+# Uses an installed game on a virtual display: looks whether the puzzle is on the board, asks for
+# the guide in both languages, and quits by the French box. Fails at the first thing that is wrong.
+#   packaging/play.sh PUZZLE.sdk OPENED PICTURES COMMAND...
+# COMMAND starts the game with PUZZLE.sdk; whatever the system opens documents with must append
+# their paths or addresses to the file OPENED. Pictures of the window are left in the folder PICTURES.
+set -euo pipefail
+puzzle=$1 opened=$2 pictures=$3
+shift 3
+
+work=$(mktemp -d)
+processes=()
+
+stop() {
+  local process
+  for process in "${processes[@]}"; do kill "$process" 2>/dev/null || true; done
+  wait
+  rm -rf "$work"
+}
+trap stop EXIT
+
+fail() {
+  take_picture failure 2>/dev/null || true
+  echo "packaging/play.sh: $1" >&2
+  exit 1
+}
+
+wait_until() { # WHAT CONDITION...: up to half a minute
+  local what=$1 rounds=300
+  shift
+  until "$@" >"$work/seen" 2>/dev/null; do
+    ((rounds-- > 0)) || fail "$what"
+    sleep 0.1
+  done
+}
+
+take_picture() { # NAME
+  sleep 0.5 # let the painting end
+  xwdtopnm -quiet "$work/Xvfb_screen0" | pnmcrop -quiet -black | pnmtopng -quiet >"$pictures/$1.png"
+}
+
+start_display() {
+  Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp -noreset \
+    3>"$work/number" 2>"$work/display" &
+  processes+=($!)
+  wait_until "no virtual display" test -s "$work/number"
+  DISPLAY=:$(<"$work/number")
+  export DISPLAY
+}
+
+window_named() { xdotool search --onlyvisible --name "$1"; } # prints its number
+
+press() { # NAME OF THE BUTTON
+  case $1 in # where its middle is, in pixels of a window at scale 1
+    help) xdotool mousemove --window "$window" 534 69 ;;
+    quit) xdotool mousemove --window "$window" 634 69 ;;
+  esac
+  xdotool click 1
+}
+
+copied() {
+  xdotool key ctrl+a ctrl+c
+  xclip -o -selection clipboard -t UTF8_STRING | tr ' ' . | tr -cd '1-9.' | grep -Fx "$1"
+}
+
+guide_opened() { grep -Ex "(file://)?/.*/lib/sudoku/$1" "$opened"; }
+
+mkdir -p "$pictures"
+: >"$opened"
+start_display
+"$@" &
+game=$!
+processes+=("$game")
+
+wait_until "no window with the name of the puzzle" window_named "${puzzle##*/}"
+window=$(<"$work/seen")
+take_picture window
+wait_until "the puzzle is not on the board" copied "$(tr -cd '1-9.' <"$puzzle")"
+
+press help
+wait_until "the French guide was not opened" guide_opened Sudoku_Fr.pdf
+xdotool key F1
+take_picture english
+press help
+wait_until "the English guide was not opened" guide_opened Sudoku_En.pdf
+
+xdotool key F2
+press quit
+wait_until "no box asks before the end" window_named '^SuDoKu [0-9.]*$'
+take_picture quit
+xdotool key alt+o # Oui
+wait_until "the game did not end at Oui" eval "! kill -0 $game"
+wait "$game" || fail "the game ended with status $?"
+echo "The game was used: its puzzle, its guides in both languages, its end."
