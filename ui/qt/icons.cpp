@@ -16,6 +16,19 @@ namespace sdk {
 
 namespace {
 
+QString file_of(const char* name) {
+  add_icons_to_the_program();
+  return QString(":/icons/%1.svg").arg(name);
+}
+
+QPixmap drawing(const QString& file, const QSize& size) {
+  QPixmap pixmap(size);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  QSvgRenderer(file).render(&painter);
+  return pixmap;
+}
+
 /// Uses the drawing as a stencil, so that one set of icons serves light and dark themes.
 class StencilIcon : public QIconEngine {
  public:
@@ -33,10 +46,8 @@ class StencilIcon : public QIconEngine {
 
  private:
   QPixmap drawn(const QSize& size, QIcon::Mode mode) const {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
+    QPixmap pixmap = drawing(file_, size);
     QPainter painter(&pixmap);
-    QSvgRenderer(file_).render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(pixmap.rect(), colour(mode));
     return pixmap;
@@ -52,9 +63,12 @@ class StencilIcon : public QIconEngine {
 
 }  // namespace
 
-QIcon button_icon(const char* name) {
-  add_icons_to_the_program();
-  return QIcon(new StencilIcon(QString(":/icons/%1.svg").arg(name)));
+QIcon button_icon(const char* name) { return QIcon(new StencilIcon(file_of(name))); }
+
+QPixmap box_picture(const char* name, int side, double pixel_ratio) {
+  QPixmap picture = drawing(file_of(name), QSize(side, side) * pixel_ratio);
+  picture.setDevicePixelRatio(pixel_ratio);
+  return picture;
 }
 
 }  // namespace sdk

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The buttons' icons.
+/// The pictures on buttons and in message boxes.
 #pragma once
 
 #include <QIcon>
@@ -11,5 +11,8 @@ namespace sdk {
 /// The icon drawn in icons/`name`.svg, in the colour of the palette's button text, sharp at any
 /// size.
 QIcon button_icon(const char* name);
+
+/// The picture drawn in icons/`name`.svg, in its own colours, for a screen of that pixel ratio.
+QPixmap box_picture(const char* name, int side, double pixel_ratio);
 
 }  // namespace sdk

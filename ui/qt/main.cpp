@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 #include <iostream>
 
@@ -19,7 +20,8 @@ int main(int argc, char** argv) {
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);  // takes its own options away
   QApplication::setApplicationName("sudoku");
-  QApplication::setDesktopFileName("sudoku");
+  QApplication::setDesktopFileName("sudoku-pas-a-pas");
+  QApplication::setWindowIcon(QIcon::fromTheme("sudoku-pas-a-pas"));  // once it is installed
 
   sdk::ProgramGuard guard;
   sdk::QtDesktop desktop(guard);

@@ -13,25 +13,12 @@
 #include <QUrl>
 
 #include "grid/errors.hpp"
+#include "ui/qt/dialog_looks.hpp"
 #include "ui/qt/printing_service.hpp"
 
 namespace sdk {
 
 namespace {
-
-QMessageBox::Icon box_icon(Icon icon) {
-  switch (icon) {
-    case Icon::exclamation:
-      return QMessageBox::Warning;
-    case Icon::critical:
-      return QMessageBox::Critical;
-    case Icon::question:
-      return QMessageBox::Question;
-    case Icon::none:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
 
 /// "description|pattern|" as Qt writes it. Qt's dialog shows the description alone.
 QString name_filter(const std::string& filter) {
@@ -53,10 +40,12 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
                               const std::string& title) {
   language_.follow();
   const bool asks = buttons == Buttons::yes_no;
-  QMessageBox box(box_icon(icon), QString::fromStdString(title), QString::fromStdString(text),
+  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window_);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
+  set_picture(box, icon);
+  fit_title(box);
   place(box, window_);
   const int pressed = box.exec();
   guard_.rethrow();
@@ -83,6 +72,7 @@ std::string QtDesktop::chosen_file(QFileDialog& dialog, const std::string& filte
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilter(name_filter(filter));
+  fit_columns(dialog);
   const bool chosen = dialog.exec() == QDialog::Accepted;
   guard_.rethrow();
   return chosen ? dialog.selectedFiles().value(0).toStdString() : std::string();

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/dialog_looks.hpp"
+
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QTreeView>
+
+#include "ui/qt/icons.hpp"
+
+namespace sdk {
+
+namespace {
+
+constexpr int picture_side = 36;
+constexpr int frame_buttons_width = 150;
+
+const char* picture_name(Icon icon) {
+  switch (icon) {
+    case Icon::exclamation:
+      return "box_exclamation";
+    case Icon::critical:
+      return "box_critical";
+    case Icon::question:
+      return "box_question";
+    case Icon::none:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void set_picture(QMessageBox& box, Icon icon) {
+  if (const char* name = picture_name(icon))
+    box.setIconPixmap(box_picture(name, picture_side, box.devicePixelRatioF()));
+}
+
+void fit_title(QMessageBox& box) {
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  if (!rows) return;
+  const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + frame_buttons_width;
+  rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
+void fit_columns(QFileDialog& dialog) {
+  constexpr int type_column = 2;  // of QFileSystemModel
+  auto* files = dialog.findChild<QTreeView*>("treeView");
+  if (!files) return;
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  files->hideColumn(type_column);
+}
+
+}  // namespace sdk

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// What Qt's own dialogs need to be read whole and sharp on every screen.
+#pragma once
+
+#include "grid/desktop.hpp"
+
+class QFileDialog;
+class QMessageBox;
+
+namespace sdk {
+
+/// Gives the box the game's own picture for `icon`: Qt's are drawn for small screens alone.
+void set_picture(QMessageBox& box, Icon icon);
+
+/// Makes the box wide enough for its title beside the buttons of its frame.
+void fit_title(QMessageBox& box);
+
+/// Makes the columns as wide as what they show, and hides the files' type, which is always the
+/// same.
+void fit_columns(QFileDialog& dialog);
+
+}  // namespace sdk
