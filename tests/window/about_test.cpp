@@ -9,6 +9,7 @@
 
 #include "grid/errors.hpp"
 #include "tests/window/play.hpp"
+#include "ui/qt/contrast.hpp"
 #include "ui/version.hpp"
 
 namespace sdk::test {
@@ -120,6 +121,14 @@ class AboutTest : public QObject {
     QTest::mouseClick(&part("Label1"), Qt::LeftButton);
     QCOMPARE(opened_, QList<QUrl>{QUrl(page_address)});
     QVERIFY(!is_closed());
+  }
+
+  void the_link_can_be_read_on_a_dark_desktop() {
+    QApplication::setPalette(QPalette(QColor(53, 53, 56), QColor(45, 45, 48)));
+    open();
+    const QPalette& colours = part("Label1").palette();
+    QVERIFY(contrast(colours.color(QPalette::Link), colours.color(QPalette::Window)) >= 4.5);
+    QApplication::setPalette(QPalette());
   }
 
   void a_click_that_is_released_beside_the_link_opens_nothing() {

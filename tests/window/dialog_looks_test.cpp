@@ -3,6 +3,7 @@
 
 #include "ui/qt/dialog_looks.hpp"
 
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QTreeView>
@@ -48,6 +49,14 @@ class DialogLooksTest : public QObject {
     fit_title(box);
     box.adjustSize();
     QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance("SuDoKu 1.0.0") + 150);
+  }
+
+  void buttons_have_no_pictures() {
+    QMessageBox box(QMessageBox::NoIcon, "SuDoKu", "9", QMessageBox::Yes | QMessageBox::No);
+    for (QAbstractButton* button : box.buttons())
+      button->setIcon(box_picture("box_question", 16, 1));
+    remove_button_icons(box);
+    for (const QAbstractButton* button : box.buttons()) QVERIFY(button->icon().isNull());
   }
 
   void a_file_dialog_shows_its_columns_whole() {

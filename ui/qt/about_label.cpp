@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/qt/contrast.hpp"
+
 // Has to stand outside every namespace.
 static void add_pictures_to_the_program() { Q_INIT_RESOURCE(pictures); }
 
@@ -20,6 +22,12 @@ void AboutLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 LinkLabel::LinkLabel() {
+  constexpr double link_contrast = 4.5;
+  QPalette colours = palette();
+  const QColor back = colours.color(QPalette::Window);
+  // Some dark desktops leave links dark blue.
+  colours.setColor(QPalette::Link, legible(colours.color(QPalette::Link), back, link_contrast));
+  setPalette(colours);
   setForegroundRole(QPalette::Link);
   setCursor(Qt::PointingHandCursor);
 }

@@ -3,6 +3,7 @@
 
 #include "ui/qt/dialog_looks.hpp"
 
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -44,6 +45,10 @@ void fit_title(QMessageBox& box) {
   if (!rows) return;
   const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + frame_buttons_width;
   rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
+void remove_button_icons(QMessageBox& box) {
+  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
 }
 
 void fit_columns(QFileDialog& dialog) {

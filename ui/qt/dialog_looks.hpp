@@ -17,6 +17,9 @@ void set_picture(QMessageBox& box, Icon icon);
 /// Makes the box wide enough for its title beside the buttons of its frame.
 void fit_title(QMessageBox& box);
 
+/// Takes Qt's pictures off the buttons, which are drawn for small screens too.
+void remove_button_icons(QMessageBox& box);
+
 /// Makes the columns as wide as what they show, and hides the files' type, which is always the
 /// same.
 void fit_columns(QFileDialog& dialog);

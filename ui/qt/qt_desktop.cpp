@@ -46,6 +46,7 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   if (asks) box.setEscapeButton(QMessageBox::No);
   set_picture(box, icon);
   fit_title(box);
+  remove_button_icons(box);
   place(box, window_);
   const int pressed = box.exec();
   guard_.rethrow();
