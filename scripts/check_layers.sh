@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 the SuDoKu team
 # SPDX-License-Identifier: MIT
 
-# Refuses every include that goes against the call direction, and Qt outside ui/qt/.
+# Refuses every include that goes against the call direction, and Qt outside ui/qt/ and tools/guide/.
 #   scripts/check_layers.sh [ROOT]    names FILE:LINE of each; exit status 1 when there is any
 set -euo pipefail
 cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
@@ -16,6 +16,7 @@ files: files grid
 ui: ui puzzles pas_a_pas files grid
 ui/qt: ui/qt ui puzzles pas_a_pas files grid
 tools: tools ui puzzles pas_a_pas files grid
+tools/guide: tools/guide ui/qt ui puzzles pas_a_pas files grid
 tools/zolv: tools/zolv
 '
 
@@ -46,7 +47,7 @@ find grid puzzles pas_a_pas files ui tools -name '*.[ch]pp' -print0 | sort -z |
       gsub(/^[^<"]*[<"]|[>"].*$/, "", path)
       target = folder_of(path)
       if (path ~ /^(Q|qt|q[a-z0-9]+\.h$)/) {
-        if (own != "ui/qt") refuse("Qt is for ui/qt alone")
+        if (own != "ui/qt" && own != "tools/guide") refuse("Qt is for ui/qt and tools/guide alone")
       } else if (target == "" ? quoted && !is_beside(path, FILENAME) \
                               : index(allowed[own], " " target " ") == 0) {
         refuse(own "/ may include" allowed[own] "only")

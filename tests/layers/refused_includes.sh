@@ -8,7 +8,7 @@ set -euo pipefail
 check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
-mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/{script,zolv}}
+mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/{script,guide,zolv}}
 touch "$tree"/tools/zolv/beside.hpp
 failures=0
 
@@ -34,6 +34,8 @@ accepted ui/a.cpp '#include "files/puzzle_file.hpp"'
 accepted ui/qt/a.cpp '#include <QWidget>'
 accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
 accepted tools/script/a.cpp '#include "ui/main_window.hpp"'
+accepted tools/guide/a.cpp '#include <QImage>'
+accepted tools/guide/a.cpp '#include "ui/qt/main_frame.hpp"'
 accepted tools/zolv/a.cpp '#include "beside.hpp"'
 
 refused grid/a.cpp '#include "ui/main_window.hpp"'
@@ -48,6 +50,8 @@ refused ui/a.cpp '#include <QWidget>'
 refused ui/a.cpp '#include <QtGui/QPen>'
 refused grid/a.cpp '#include "qpoint.h"'
 refused tools/script/a.cpp '#include <QCoreApplication>'
+refused tools/script/a.cpp '#include "ui/qt/main_frame.hpp"'
+refused tools/guide/a.cpp '#include "tools/script/script.hpp"'
 refused tools/zolv/a.cpp '#include "grid/types.hpp"'
 
 exit $((failures > 0))

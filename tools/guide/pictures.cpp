@@ -1,0 +1,237 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "tools/guide/pictures.hpp"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+#include "pas_a_pas/order.hpp"
+#include "pas_a_pas/tables.hpp"
+#include "pas_a_pas/view.hpp"
+#include "tools/guide/errors.hpp"
+#include "tools/guide/positions.hpp"
+
+namespace sdk {
+
+namespace {
+
+// One puzzle serves all pictures that are not about a technique.
+constexpr std::string_view puzzle =
+    "5.7...42.4...3.9.79.2.4.6.5..91..2...1.7.9.....8..31..7.4..8......5.28......1679.";
+
+/// The same puzzle with two cells to go; a hint begins with the one in the middle.
+constexpr std::string_view nearly_done =
+    "5879614234612359879328476153791842566157.934824865317972439856119657283485341679.";
+
+/// The puzzle with some digits of a player; a cell in the middle box stays the current one.
+void play(Studio& studio) {
+  studio.lay_out(puzzle);
+  studio.type(1, 6, 1);
+  studio.type(2, 6, 5);
+  studio.type(3, 4, 8);
+  studio.select(5, 5);
+}
+
+QImage take_offer(Studio& studio) {
+  studio.lay_out(puzzle);
+  studio.show_candidates(true);
+  QImage image;
+  studio.boxes().answer = [&](QMessageBox& box) {
+    image = studio.window_under(box);
+    return QMessageBox::No;
+  };
+  studio.ask_hint();
+  studio.boxes().answer = nullptr;
+  studio.show_candidates(false);
+  return image;
+}
+
+/// Follows a hint up to the moment when the position's technique has fired.
+class TechniqueWatch final : public SolverObserver {
+ public:
+  TechniqueWatch(const Position& position, std::function<void()> fired)
+      : position_(position), fired_(std::move(fired)) {
+    solver.observer = this;
+  }
+  ~TechniqueWatch() override { solver.observer = nullptr; }
+
+  void trying(const Technique& technique) override {
+    if (technique.place != position_.place) return;
+    affiche_candidats();
+    for (int k = 0; k < 81; ++k)
+      texts_[static_cast<std::size_t>(k)] = sudoku().MSR.text(k / 9, k % 9);
+    for (const auto& [cell, smaller, larger] : position_.former_pairs)
+      solver.Paires(cell.row, cell.column) = {smaller, larger};
+  }
+
+  void tried(const Technique& technique, bool changed) override {
+    if (!changed || technique.place != position_.place || !fired_) return;
+    undo_scribbles();
+    std::exchange(fired_, nullptr)();
+  }
+
+ private:
+  /// A technique may write in the cells while it searches; the driver's next round, which the
+  /// player sees, writes them all anew.
+  void undo_scribbles() {
+    for (int k = 0; k < 81; ++k)
+      sudoku().MSR.set_text(k / 9, k % 9, texts_[static_cast<std::size_t>(k)]);
+  }
+
+  const Position& position_;
+  std::function<void()> fired_;
+  std::array<std::string, 81> texts_;
+};
+
+/// Lays the position out and takes a picture when its technique fires.
+QImage take_at(const Position& position, Studio& studio, const std::function<QImage()>& take) {
+  studio.lay_out(position.grid);
+  studio.show_candidates(true);
+  QImage image;
+  TechniqueWatch watch(position, [&] { image = take(); });
+  studio.ask_hint();
+  studio.show_candidates(false);
+  if (image.isNull()) throw std::logic_error("no hint uses " + std::to_string(position.place));
+  return image;
+}
+
+QImage take_technique(const Position& position, Studio& studio) {
+  return take_at(position, studio, [&] { return studio.candidates(); });
+}
+
+/// The first cell of the candidates that is marked so.
+QImage cell_marked(Studio& studio, int mode) {
+  for (int number = 1; number <= 81; ++number) {
+    const Cell cell = cell_at(number);
+    if (sudoku().MSR.cell(cell.row - 1, cell.column - 1).mark == mode)
+      return studio.cell("MSR", cell.row, cell.column);
+  }
+  throw std::logic_error("no cell is marked " + std::to_string(mode));
+}
+
+QImage take_mark(Studio& studio, int mode) {
+  constexpr int xy_wing = 16;
+  const auto position = std::ranges::find(positions(), xy_wing, &Position::place);
+  return take_at(*position, studio, [&] { return cell_marked(studio, mode); });
+}
+
+QImage take_given(Studio& studio, int level) {
+  studio.lay_out(puzzle, level);
+  return studio.cell("MSF", 5, 2);
+}
+
+QImage take_given_of_file(Studio& studio) {
+  studio.lay_out(puzzle);
+  studio.set_background_of_givens(colour::from_file);
+  return studio.cell("MSF", 5, 2);
+}
+
+QImage take_hinted(Studio& studio) {
+  studio.lay_out(nearly_done);
+  studio.boxes().answer = [](QMessageBox&) {
+    return sudoku().MSF.is_filled(4, 4) ? QMessageBox::No : QMessageBox::Yes;
+  };
+  studio.ask_hint();
+  studio.boxes().answer = nullptr;
+  studio.select(1, 1);
+  return studio.cell("MSF", 5, 5);
+}
+
+QImage take_typed(Studio& studio, int digit) {
+  studio.lay_out(puzzle);
+  studio.type(5, 5, digit);
+  studio.select(1, 2);
+  return studio.cell("MSF", 5, 5);
+}
+
+}  // namespace
+
+Pictures::Pictures(const std::string& language) : studio_(language) {}
+
+std::vector<Pictures::Shot> Pictures::shots_of_window() {
+  return {
+      {"window", 76, [](Studio& studio) { return play(studio), studio.window(); }},
+      {"clash", 55,
+       [](Studio& studio) { return play(studio), studio.type(5, 5, 1), studio.puzzle(); }},
+      {"candidates", 118,
+       [](Studio& studio) {
+         play(studio);
+         studio.show_candidates(true);
+         QImage image = studio.window();
+         studio.show_candidates(false);
+         return image;
+       }},
+      {"offer", 118, take_offer},
+  };
+}
+
+std::vector<Pictures::Shot> Pictures::shots_of_cells() {
+  constexpr double width = 5.5;
+  std::vector<Shot> shots{
+      {"given-file", width, take_given_of_file},
+      {"hinted", width, take_hinted},
+      {"typed", width, [](Studio& studio) { return take_typed(studio, 2); }},
+      {"wrong", width, [](Studio& studio) { return take_typed(studio, 1); }},
+  };
+  for (int level = 0; level < 5; ++level)
+    shots.push_back({QString("given-%1").arg(level), width,
+                     [level](Studio& studio) { return take_given(studio, level); }});
+  for (const auto& [name, mode] : {std::pair("mark-removed", mark::removed),
+                                   {"mark-support", mark::support},
+                                   {"mark-second", mark::second},
+                                   {"mark-value", mark::value}})
+    shots.push_back({name, width, [mode](Studio& studio) { return take_mark(studio, mode); }});
+  return shots;
+}
+
+std::vector<Pictures::Shot> Pictures::shots_of_buttons() {
+  constexpr double width = 5.5;
+  std::vector<Shot> shots;
+  for (const auto& [name, button] : {std::pair("new", "Command1"),
+                                     {"open", "Command6"},
+                                     {"save", "sauve"},
+                                     {"print", "Command4"},
+                                     {"hint", "Command8"},
+                                     {"verify", "Command7"},
+                                     {"solve", "Bouton_GO"},
+                                     {"clear", "Command2"},
+                                     {"help", "aide"},
+                                     {"about", "Command5"},
+                                     {"quit", "Command3"}})
+    shots.push_back({QString("button-") + name, width,
+                     [button](Studio& studio) { return studio.button(button); }});
+  return shots;
+}
+
+std::vector<Pictures::Shot> Pictures::shots_of_techniques() {
+  constexpr double width = 52;
+  std::vector<Shot> shots;
+  for (const Position& position : positions())
+    shots.push_back({QString("technique-%1").arg(position.place, 2, 10, QChar('0')), width,
+                     [&position](Studio& studio) { return take_technique(position, studio); }});
+  return shots;
+}
+
+std::vector<Pictures::Shot> Pictures::shots() {
+  std::vector<Shot> all;
+  for (auto family : {shots_of_window, shots_of_cells, shots_of_buttons, shots_of_techniques})
+    std::ranges::move(family(), std::back_inserter(all));
+  return all;
+}
+
+Picture Pictures::take(const QString& name) {
+  const auto shot = std::ranges::find(shots_, name, &Shot::name);
+  if (shot == shots_.end()) throw GuideError("nobody takes the picture " + name);
+  return {shot->take(studio_), shot->width};
+}
+
+std::vector<QString> Pictures::names() const {
+  std::vector<QString> names;
+  for (const Shot& shot : shots_) names.push_back(shot.name);
+  return names;
+}
+
+}  // namespace sdk
