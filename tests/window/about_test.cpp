@@ -96,6 +96,14 @@ class AboutTest : public QObject {
     }
   }
 
+  void a_double_click_beside_the_controls_closes_it_and_nothing_else() {
+    open();
+    QTest::mouseDClick(dialog(), Qt::LeftButton, {}, QPoint(3, 3));
+    QVERIFY(is_closed());
+    QVERIFY(play_->frame.isVisible());
+    QCOMPARE(play_->window.MSF.current_row(), 8);
+  }
+
   void a_click_on_any_control_but_the_link_closes_it() {
     for (const char* name : {"Picture", "PictureCaption", "Label2", "lblVersion", "lblCopyright"}) {
       open();
@@ -169,6 +177,14 @@ class AboutTest : public QObject {
     play_->find("MSF").setFocus();
     QCOMPARE(lost.count(), 1);
     QCOMPARE(lost[0][0].value<Control>(), Control::aide);
+  }
+
+  void the_box_lines_are_drawn_again_when_the_help_button_loses_the_focus() {
+    play_->find("aide").setFocus();
+    play_->window.MSR.set_visible(true);
+    QCOMPARE(play_->window.lines().size(), 4u);
+    play_->find("MSF").setFocus();
+    QCOMPARE(play_->window.lines().size(), 8u);
   }
 
  private:

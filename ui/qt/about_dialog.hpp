@@ -24,7 +24,8 @@ class AboutDialog : public QDialog {
 
  signals:
   void clicked(AboutControl control);
-  /// A key or a mouse button was pressed in the box, or the player closed it.
+  /// A key or a mouse button was pressed in the box, or its frame's close button; a click and a
+  /// double click begin with such a press.
   void dismissed();
 
  protected:
