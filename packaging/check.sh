@@ -47,6 +47,14 @@ check_package() { # every place that names the version has to name the same
   if dpkg-deb -c "${package[0]}" | grep zolv; then fail "the package holds the companion solver"; fi
 }
 
+check_solver() { # a solver beside the installed programs is found through their links
+  local solver=$work/usr/lib/sudoku/zolv.exe
+  printf '#!/bin/sh\ntouch asked\n' >"$solver"
+  chmod +x "$solver"
+  printf '%s\n' 'seed 1' 'click Bouton_GO' | tmp=$work "$work/usr/bin/sudoku-script" >/dev/null
+  [[ -f $work/usr/lib/sudoku/asked ]] || fail "an external solver is not found"
+}
+
 use_game() {
   mkdir -p "$work/bin" "$work/home"
   printf '#!/bin/sh\nprintf "%%s\\n" "$1" >>"%s/opened"\n' "$work" >"$work/bin/xdg-open"
@@ -63,4 +71,5 @@ cp packaging/puzzle.sdk "$puzzle"
 check_descriptions
 [[ $(type_of "$puzzle") == application/x-sudoku-grid ]] || fail "the type of puzzle files is unknown"
 check_package
+check_solver
 use_game
