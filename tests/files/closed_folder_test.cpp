@@ -23,13 +23,15 @@ constexpr uid_t nobody = 65534;
 class ClosedFolder : public testing::Test {
  protected:
   ClosedFolder() { write_file(file, "old and long"); }
-  ~ClosedFolder() override { fs::permissions(folder.path(), fs::perms(0755)); }
+  ~ClosedFolder() override { open(); }
 
   /// Everybody may write into the file, nobody may make a file beside it.
   void close() {
     fs::permissions(file, fs::perms(0666));
     fs::permissions(folder.path(), fs::perms(0555));
   }
+
+  void open() { fs::permissions(folder.path(), fs::perms(0755)); }
 
   std::string fault_of_saving_as_a_plain_user(const fs::path& target) {
     const PlainUser user;
@@ -88,6 +90,7 @@ TEST_F(ClosedFolder, WithANewFileOnlyFails) {
 TEST_F(ClosedFolder, WhosePlayerMayNotEnterFails) {
   fs::permissions(folder.path(), fs::perms(0));
   EXPECT_EQ(fault_of_saving_as_a_plain_user(file), file.string() + ": Permission denied");
+  open();
   EXPECT_EQ(bytes_of(file), "old and long");
 }
 
