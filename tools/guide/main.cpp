@@ -22,7 +22,6 @@ constexpr std::string_view usage =
 void prepare_environment() {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QPA_PLATFORMTHEME", "");
-  qputenv("QT_HASH_SEED", "0");                               // the order of what a document holds
   QLoggingCategory::setFilterRules("default.warning=false");  // of what is missing off screen
   QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
   QApplication::setStyle("Fusion");

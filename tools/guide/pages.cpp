@@ -94,8 +94,9 @@ void break_before(QTextTable& table) {
   table.setFormat(format);
 }
 
-/// Begins a new page where a heading would stand alone or a table be cut. From the front to the
-/// back, since every new page moves what comes after it.
+}  // namespace
+
+// From the front to the back, since every new page moves what comes after it.
 void break_pages(const QTextDocument& document) {
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
     document.documentLayout()->pageCount();  // lays out what the last change has moved
@@ -105,6 +106,8 @@ void break_pages(const QTextDocument& document) {
       break_before(block);
   }
 }
+
+namespace {
 
 /// The end of a page runs through a line.
 bool is_cut(const QTextBlock& block) {

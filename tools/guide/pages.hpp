@@ -9,10 +9,12 @@
 
 namespace sdk {
 
-/// A PDF document with page numbers and that title. No heading stands alone at the foot of a page,
-/// and no table that fits on one is cut.
-/// The same document always gives the same bytes. Throws GuideError when a line or a picture fits
-/// on no page.
+/// Begins a new page where a heading would stand alone at the foot of one, or where a table that
+/// fits on one would be cut. The document has a page size.
+void break_pages(const QTextDocument& document);
+
+/// A PDF document with that title, its pages broken as above and numbered. Throws GuideError when a
+/// line or a picture fits on no page. The document is of no other use afterwards.
 QByteArray pdf_of(QTextDocument& document, const QString& title);
 
 }  // namespace sdk

@@ -154,8 +154,6 @@ Pictures::Pictures(const std::string& language) : studio_(language) {}
 std::vector<Pictures::Shot> Pictures::shots_of_window() {
   return {
       {"window", 76, [](Studio& studio) { return play(studio), studio.window(); }},
-      {"clash", 55,
-       [](Studio& studio) { return play(studio), studio.type(5, 5, 1), studio.puzzle(); }},
       {"candidates", 118,
        [](Studio& studio) {
          play(studio);

@@ -87,8 +87,14 @@ QImage Studio::window() {
 QImage Studio::part(const char* name) { return cut_out(widget(name).geometry()); }
 
 QImage Studio::cell(const char* grid, int row, int column) {
+  constexpr int inset = 2;  // the lines between the boxes reach into the cells
   const QRect square((column - 1) * cell_side, (row - 1) * cell_side, cell_side, cell_side);
-  return cut_out(square.translated(widget(grid).pos()));
+  QImage image =
+      cut_out(square.translated(widget(grid).pos()).adjusted(inset, inset, -inset, -inset));
+  QPainter painter(&image);
+  painter.setPen(Qt::lightGray);
+  painter.drawRect(0, 0, square.width() - 2 * inset - 1, square.height() - 2 * inset - 1);
+  return image;
 }
 
 QImage Studio::cut_out(const QRect& area) {
@@ -97,9 +103,9 @@ QImage Studio::cut_out(const QRect& area) {
 }
 
 QImage Studio::window_under(QMessageBox& box) {
-  constexpr int edge = 1;
+  constexpr int edge = 1, title_bar = 8;  // the box has none here, but takes the room of one
   QImage image = picture_of(frame_);
-  const QRect place(box.pos() - frame_.pos(), box.size());
+  const QRect place(box.pos() - frame_.pos() + QPoint(0, title_bar), box.size());
   QPainter painter(&image);
   painter.fillRect(place.adjusted(-edge, -edge, edge, edge), Qt::darkGray);
   painter.drawImage(place.topLeft(), picture_of(box));

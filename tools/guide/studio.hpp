@@ -56,6 +56,7 @@ class Studio {
   /// The puzzle or the candidates with their frame.
   QImage puzzle() { return part("rect"); }
   QImage candidates() { return part("rect2"); }
+  /// One cell of "MSF" or "MSR", framed.
   QImage cell(const char* grid, int row, int column);
   QImage button(const char* name) { return picture_of(widget(name)); }
   /// The window with a box over it.

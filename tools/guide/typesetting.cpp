@@ -59,7 +59,7 @@ QTextTableFormat table_format(double padding) {
 
 void style_table(QTextTable& table) {
   QTextTableFormat format = table_format(0.8);
-  format.setTopMargin(millimetres(1));
+  format.setTopMargin(millimetres(2));
   table.setFormat(format);
   for (int row = 0; row < table.rows(); ++row)
     for (int column = 0; column < table.columns(); ++column)
