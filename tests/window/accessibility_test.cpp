@@ -44,9 +44,9 @@ constexpr ControlRow control_rows[] = {
     {"aide", QAccessible::Button, "focusable", "Aide", "Help"},
     {"Command5", QAccessible::Button, "focusable", "Information", "About"},
     {"Command3", QAccessible::Button, "focusable", "Quitter", "Quit"},
-    {"rect", QAccessible::Border, "", "", ""},
+    {"rect", QAccessible::Client, "", "", ""},
     {"MSF", QAccessible::Table, "focusable", "Grille", "Puzzle"},
-    {"rect2", QAccessible::Border, "invisible", "", ""},
+    {"rect2", QAccessible::Client, "invisible", "", ""},
     {"MSR", QAccessible::Table, "focusable invisible", "Candidats", "Candidates"},
     {"options", QAccessible::Grouping, "", "Options", "Options"},
     {"Check3", QAccessible::CheckBox, "focusable checkable checked", "Protéger la grille initiale",
@@ -60,7 +60,7 @@ constexpr ControlRow control_rows[] = {
     {"Astuce", QAccessible::StaticText, "read-only",
      "Appuyer sur la touche F1 pour passer en Anglais, F2 pour le Français",
      "Press on the F1 key for english or F2 for french"},
-    {"lines", QAccessible::Border, "", "", ""},
+    {"lines", QAccessible::Client, "", "", ""},
 };
 
 QStringList names_of(const QList<QAccessibleInterface*>& objects, QAccessible::Role role) {

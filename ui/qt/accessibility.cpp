@@ -20,10 +20,11 @@ struct WidgetRole {
   QAccessible::Role role;
 };
 
+/// A plain frame is decoration, which screen readers pass over; Qt would have it a window.
 constexpr WidgetRole widget_roles[] = {
-    {"sdk::MainFrame", QAccessible::Window},     {"sdk::CommandBar", QAccessible::ToolBar},
-    {"sdk::OptionBar", QAccessible::Grouping},   {"sdk::LineOverlay", QAccessible::Border},
-    {"sdk::PictureLabel", QAccessible::Graphic},
+    {"sdk::MainFrame", QAccessible::Window},   {"sdk::CommandBar", QAccessible::ToolBar},
+    {"sdk::OptionBar", QAccessible::Grouping}, {"sdk::PictureLabel", QAccessible::Graphic},
+    {"QFrame", QAccessible::Client},
 };
 
 /// A link that a screen reader can follow although no key reaches it.
@@ -40,6 +41,7 @@ class AccessibleLink : public QAccessibleWidget {
 
 QAccessibleInterface* make_interface(const QString& class_name, QObject* object) {
   if (auto* link = qobject_cast<LinkLabel*>(object)) return new AccessibleLink(*link);
+  if (class_name != object->metaObject()->className()) return nullptr;
   const auto* known = std::ranges::find(widget_roles, class_name, &WidgetRole::class_name);
   if (known == std::end(widget_roles)) return nullptr;
   return new QAccessibleWidget(static_cast<QWidget*>(object), known->role);

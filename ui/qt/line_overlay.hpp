@@ -12,8 +12,6 @@ namespace sdk {
 
 /// Covers the whole window, lets the mouse through and always shows MainWindow::lines.
 class LineOverlay : public QWidget {
-  Q_OBJECT
-
  public:
   /// `window` must outlive the overlay.
   LineOverlay(const MainWindow& window, QWidget* parent);
