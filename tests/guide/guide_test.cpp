@@ -185,6 +185,15 @@ class GuideTest : public QObject {
     }
   }
 
+  void a_table_is_not_cut() {
+    for (int lines = 5; lines < 25; ++lines) {
+      const auto document = document_ending(lines, "Text.\n\n|A|B|\n|---|---|\n|c|d|\n|e|f|\n");
+      break_pages(*document);
+      QCOMPARE(page_of(*document, block_with(*document, "A")),
+               page_of(*document, block_with(*document, "f")));
+    }
+  }
+
   void a_picture_that_fits_on_no_page_is_refused() {
     Pictures pictures("En");
     const auto document = typeset(parse_manuscript("![Window](window)\n"), pictures);
