@@ -87,7 +87,7 @@ QImage Studio::window() {
 QImage Studio::part(const char* name) { return cut_out(widget(name).geometry()); }
 
 QImage Studio::cell(const char* grid, int row, int column) {
-  constexpr int inset = 2;  // the lines between the boxes reach into the cells
+  constexpr int inset = 1;  // the frame covers what the lines between the boxes leave in a cell
   const QRect square((column - 1) * cell_side, (row - 1) * cell_side, cell_side, cell_side);
   QImage image =
       cut_out(square.translated(widget(grid).pos()).adjusted(inset, inset, -inset, -inset));
