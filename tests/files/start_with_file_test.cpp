@@ -45,7 +45,7 @@ class StartWithFile : public testing::Test {
   int picks = 0;
 };
 
-TEST_F(StartWithFile, ShowsThePuzzleInPlaceOfANewOne) {
+TEST_F(StartWithFile, ShowsThePuzzleInsteadOfANewOne) {
   w.start(file.string());
   expect_puzzle_shown();
   EXPECT_EQ(w.title(), file.string());
