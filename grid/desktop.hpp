@@ -68,7 +68,8 @@ class Desktop {
   /// Throws RuntimeError when it cannot be made.
   virtual std::filesystem::path data_folder() = 0;
 
-  /// The folder of the running program.
+  /// The folder of the running program. Throws std::filesystem::filesystem_error when the system
+  /// does not tell it.
   virtual std::filesystem::path program_folder() = 0;
 
   /// The folder for the files that are exchanged with the external solver: the value of the

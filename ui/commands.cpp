@@ -4,8 +4,9 @@
 // What each button, check box and the level list do, and the end of the program.
 
 #include <algorithm>
+#include <exception>
 #include <filesystem>
-#include <system_error>
+#include <functional>
 
 #include "files/external_solver.hpp"
 #include "files/puzzle_file.hpp"
@@ -175,6 +176,18 @@ void MainWindow::MajCandidats() {
   MSR.refresh();
 }
 
+namespace {
+
+/// Nothing that is opened beside the game may disturb it, whatever goes wrong.
+void try_to_open(const std::function<void()>& open) {
+  try {
+    open();
+  } catch (const std::exception&) {
+  }
+}
+
+}  // namespace
+
 void MainWindow::show_about() {
   about_.show(desktop().year());
   if (listener_) listener_->about_changed();
@@ -183,7 +196,7 @@ void MainWindow::show_about() {
 void MainWindow::click_about(AboutControl control) {
   if (!about_.shown()) return;
   if (control == AboutControl::Label1)
-    open_outside(page_address);
+    try_to_open([&] { desktop().open_document(page_address); });
   else
     close_about();
 }
@@ -196,18 +209,11 @@ void MainWindow::close_about() {
 
 void MainWindow::help() {
   const char* document = globals.Langue == "En" ? "Sudoku_En.pdf" : "Sudoku_Fr.pdf";
-  const auto path = desktop().program_folder() / document;
-  // Asked for a document that is not there, some systems answer with a box of their own.
-  std::error_code ignored;
-  if (std::filesystem::exists(path, ignored)) open_outside(path.string());
-}
-
-void MainWindow::open_outside(const std::string& document_or_address) {
-  try {
-    desktop().open_document(document_or_address);
-  } catch (const RuntimeError&) {
-    // Nothing that is opened beside the game may disturb it.
-  }
+  try_to_open([&] {
+    const auto path = desktop().program_folder() / document;
+    // Asked for a document that is not there, some systems answer with a box of their own.
+    if (std::filesystem::exists(path)) desktop().open_document(path.string());
+  });
 }
 
 void MainWindow::focus_lost(Control control) {

@@ -152,7 +152,6 @@ class MainWindow final : public Window {
   void solve();
   void show_about();
   void help();
-  void open_outside(const std::string& document_or_address);
 
   void erase_selection();
   void type_digit(char digit);

@@ -226,6 +226,11 @@ TEST_F(Help, DoesNothingWithoutAViewer) {
   expect_nothing_happens_but({document("Sudoku_Fr.pdf")});
 }
 
+TEST_F(Help, DoesNothingWhenTheFolderOfTheProgramIsUnknown) {
+  desktop.has_program_folder = false;
+  expect_nothing_happens_but({});
+}
+
 TEST_F(Help, DrawsTheBoxLinesAgainWhenItsButtonLosesTheFocus) {
   w.focus_lost(Control::aide);
   EXPECT_EQ(game.repaints, Lines{"lines"});

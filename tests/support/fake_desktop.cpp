@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 #include "grid/errors.hpp"
 
@@ -108,6 +109,12 @@ std::uint32_t FakeDesktop::random_seed() {
 void FakeDesktop::open_document(const std::string& document_or_address) {
   opened.push_back(document_or_address);
   if (!opening_works) throw RuntimeError(document_or_address, "no program opens it");
+}
+
+fs::path FakeDesktop::program_folder() {
+  if (!has_program_folder)
+    throw fs::filesystem_error("program folder", std::make_error_code(std::errc::io_error));
+  return scratch_ / "program";
 }
 
 fs::path FakeDesktop::data_folder() {

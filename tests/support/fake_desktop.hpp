@@ -45,6 +45,7 @@ class FakeDesktop : public PlatformDesktop {
   std::function<void()> at_pick = [] {};
   int clock_year = 2026;
   bool opening_works = true;
+  bool has_program_folder = true;
   SaveSteps* save_steps = nullptr;                    ///< of the next saves; null: the real ones
   std::map<std::uint32_t, std::uint32_t> exit_codes;  ///< of made-up processes
   /// What happens at the n-th (from 1) call of let_events_run since the last forget().
@@ -78,7 +79,7 @@ class FakeDesktop : public PlatformDesktop {
   int year() override { return clock_year; }
   void open_document(const std::string& document_or_address) override;
   /// Folders of its own, empty at first.
-  std::filesystem::path program_folder() override { return scratch_ / "program"; }
+  std::filesystem::path program_folder() override;
   std::string temporary_folder() override { return (scratch_ / "tmp").string(); }
   std::optional<std::uint32_t> exit_code(std::uint32_t id) override;
   void replace_file(const std::string& file, std::string_view bytes) override;
