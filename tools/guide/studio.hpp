@@ -53,9 +53,8 @@ class Studio {
 
   /// The whole window.
   QImage window();
-  /// The puzzle or the candidates with their frame.
-  QImage puzzle() { return part("rect"); }
-  QImage candidates() { return part("rect2"); }
+  /// The candidates with their frame.
+  QImage candidates();
   /// One cell of "MSF" or "MSR", framed.
   QImage cell(const char* grid, int row, int column);
   QImage button(const char* name) { return picture_of(widget(name)); }
@@ -66,7 +65,6 @@ class Studio {
 
  private:
   QWidget& widget(const char* name);
-  QImage part(const char* name);
   QImage cut_out(const QRect& area);
   void settle();
 
