@@ -6,7 +6,6 @@
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtGui/qpa/qplatformaccessibility.h>
 #include <QtGui/qpa/qplatformintegration.h>
-#include <QMetaEnum>
 
 namespace sdk::test {
 
@@ -67,10 +66,6 @@ QList<QAccessibleInterface*> accessible_tree(QWidget& widget) {
 }
 
 QString name_of(QAccessibleInterface& object) { return object.text(QAccessible::Name); }
-
-QString role_of(QAccessibleInterface& object) {
-  return QMetaEnum::fromType<QAccessible::Role>().valueToKey(object.role());
-}
 
 QString states_of(QAccessibleInterface& object) {
   const QAccessible::State state = object.state();

@@ -43,7 +43,6 @@ QAccessibleInterface& accessible(QWidget& widget);
 QList<QAccessibleInterface*> accessible_tree(QWidget& widget);
 
 QString name_of(QAccessibleInterface& object);
-QString role_of(QAccessibleInterface& object);
 /// Those of "focusable", "checkable", "checked", "read-only" and "invisible" that hold, in this
 /// order.
 QString states_of(QAccessibleInterface& object);
