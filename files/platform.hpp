@@ -16,6 +16,9 @@ namespace sdk::platform {
 /// The folder of the running program's real file, links followed.
 std::filesystem::path program_folder();
 
+/// The folder in which programs keep what is the player's; it need not exist.
+std::filesystem::path data_home();
+
 /// Makes a new folder that only the player can enter, below the system's temporary folder.
 std::filesystem::path make_private_folder();
 

@@ -36,6 +36,12 @@ std::filesystem::path program_folder() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }
 
+std::filesystem::path data_home() {
+  if (const char* folder = std::getenv("XDG_DATA_HOME"); folder && *folder) return folder;
+  const char* home = std::getenv("HOME");
+  return std::filesystem::path(home ? home : "") / ".local" / "share";
+}
+
 std::filesystem::path make_private_folder() {
   std::string name = (std::filesystem::temp_directory_path() / "sudoku-XXXXXX").string();
   if (!mkdtemp(name.data())) fail(errno, name);

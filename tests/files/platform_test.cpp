@@ -221,5 +221,18 @@ TEST(ProgramFolder, IsFoundThroughALinkToTheProgram) {
   EXPECT_NE(output.find(solution), std::string::npos) << output;
 }
 
+TEST(DataHome, IsThatOfTheVariable) {
+  const Variable home("HOME", "/home/player"), data("XDG_DATA_HOME", "/some/where");
+  EXPECT_EQ(platform::data_home(), "/some/where");
+}
+
+TEST(DataHome, IsInThePlayersFolderWithoutTheVariable) {
+  const Variable home("HOME", "/home/player");
+  for (const auto& value : {std::optional<std::string>(), std::optional<std::string>("")}) {
+    const Variable data("XDG_DATA_HOME", value);
+    EXPECT_EQ(platform::data_home(), "/home/player/.local/share");
+  }
+}
+
 }  // namespace
 }  // namespace sdk::test

@@ -3,9 +3,9 @@
 
 #include "tools/script/script_desktop.hpp"
 
-#include <cstdlib>
 #include <ostream>
 
+#include "files/platform.hpp"
 #include "grid/errors.hpp"
 #include "tools/script/text_format.hpp"
 
@@ -55,12 +55,6 @@ struct DrawingPrinter {
   }
   void operator()(const LineDrawing& line) const { out << "print " << line_text(line) << '\n'; }
 };
-
-std::filesystem::path data_home() {
-  if (const char* home = std::getenv("XDG_DATA_HOME"); home && *home) return home;
-  const char* home = std::getenv("HOME");
-  return std::filesystem::path(home ? home : "") / ".local" / "share";
-}
 
 }  // namespace
 
@@ -129,7 +123,7 @@ void ScriptDesktop::open_document(const std::string& document_or_address) {
 }
 
 std::filesystem::path ScriptDesktop::data_folder() {
-  const auto folder = data_home() / "SuDoKu";
+  const auto folder = platform::data_home() / "SuDoKu";
   std::error_code failure;
   std::filesystem::create_directories(folder, failure);
   if (failure) throw RuntimeError(folder.string(), failure.message());
