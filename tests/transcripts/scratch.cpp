@@ -19,7 +19,7 @@ struct Placeholder {
 };
 
 constexpr Placeholder placeholders[] = {
-    {"<program>", "program"}, {"<tmp>", "tmp"}, {"<data>", "share/SuDoKu"}, {"<work>", "work"}};
+    {"<program>", "program"}, {"<tmp>", "tmp"}, {"<data>", "share/sudoku"}, {"<work>", "work"}};
 
 fs::path fresh_folder() {
   std::string pattern = (fs::canonical(fs::temp_directory_path()) / "transcript-XXXXXX").string();
