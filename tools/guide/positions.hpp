@@ -4,6 +4,7 @@
 /// A position for each technique, in which a hint comes to use it.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 

@@ -59,7 +59,7 @@ void Studio::lay_out(std::string_view puzzle, int level) {
 void Studio::set_background_of_givens(Colour colour) {
   for (int k = 0; k < 81; ++k) {
     window_.MSF.make_current(k / 9, k % 9);
-    if (window_.MSF.current().back_colour != colour::white) window_.MSF.set_back_colour(colour);
+    if (window_.MSF.current().is_given()) window_.MSF.set_back_colour(colour);
   }
 }
 

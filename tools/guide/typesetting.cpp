@@ -28,7 +28,7 @@ struct HeadingLook {
 /// Of the first to the third level.
 constexpr std::array<HeadingLook, 3> heading_looks{{{22, 0, 2}, {13, 5, 1.5}, {9.5, 0, 1}}};
 
-constexpr std::size_t sections_a_row = 2;
+constexpr int sections_a_row = 2;
 
 using Passages = std::span<const Passage>;
 
@@ -69,8 +69,8 @@ void style_table(QTextTable& table) {
 QTextTableFormat section_table_format() {
   QTextTableFormat format = table_format(2);
   format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
-  const QTextLength half(QTextLength::PercentageLength, 50);
-  format.setColumnWidthConstraints({half, half});
+  const QTextLength share(QTextLength::PercentageLength, 100.0 / sections_a_row);
+  format.setColumnWidthConstraints(QVector<QTextLength>(sections_a_row, share));
   return format;
 }
 
@@ -92,16 +92,19 @@ void insert(QTextCursor cursor, const Passage& passage) {
 
 /// Side by side.
 void insert_row(QTextCursor& cursor, Passages sections) {
-  const QTextTable* table = cursor.insertTable(1, 2, section_table_format());
+  const QTextTable* table = cursor.insertTable(1, sections_a_row, section_table_format());
   for (int column = 0; const Passage& section : sections)
     insert(table->cellAt(0, column++).firstCursorPosition(), section);
   cursor.movePosition(QTextCursor::End);
 }
 
-/// Two a row. Each row is a table of its own, which can be kept on one page.
+/// Each row is a table of its own, which can be kept on one page.
 void insert_sections(QTextCursor& cursor, Passages sections) {
-  for (; !sections.empty(); sections = sections.subspan(std::min(sections.size(), sections_a_row)))
-    insert_row(cursor, sections.first(std::min(sections.size(), sections_a_row)));
+  while (!sections.empty()) {
+    const auto count = std::min<std::size_t>(sections.size(), sections_a_row);
+    insert_row(cursor, sections.first(count));
+    sections = sections.subspan(count);
+  }
 }
 
 /// Takes the sections that stand first from `rest`.

@@ -22,11 +22,11 @@ void AboutLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 LinkLabel::LinkLabel() {
-  constexpr double link_contrast = 4.5;
   QPalette colours = palette();
   const QColor back = colours.color(QPalette::Window);
   // Some dark desktops leave links dark blue.
-  colours.setColor(QPalette::Link, legible(colours.color(QPalette::Link), back, link_contrast));
+  colours.setColor(QPalette::Link,
+                   legible(colours.color(QPalette::Link), back, small_text_contrast));
   setPalette(colours);
   setForegroundRole(QPalette::Link);
   setCursor(Qt::PointingHandCursor);

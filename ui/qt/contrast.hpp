@@ -8,10 +8,9 @@
 
 namespace sdk {
 
-/// What text of 18 points and more and what smaller text has to have. The Web Content Accessibility
-/// Guidelines ask 4.5 of small text; the green of a hint on light green misses that by a hair's
-/// breadth, and is left as it is.
-inline constexpr double large_text_contrast = 3, small_text_contrast = 4.47;
+/// What the Web Content Accessibility Guidelines ask of text of 18 points and more, and of smaller
+/// text.
+inline constexpr double large_text_contrast = 3, small_text_contrast = 4.5;
 
 /// The contrast ratio of two opaque colours as those guidelines define it, 1 to 21.
 double contrast(const QColor& one, const QColor& other);
