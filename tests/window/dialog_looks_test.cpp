@@ -44,6 +44,16 @@ class DialogLooksTest : public QObject {
     QCOMPARE(dense.devicePixelRatio(), 2.0);
   }
 
+  void the_icon_of_the_game_is_drawn_for_every_size() {
+    const QList<QSize> sizes = game_icon().availableSizes();
+    QCOMPARE(sizes, (QList<QSize>{{16, 16}, {32, 32}, {64, 64}}));
+    for (const QSize& size : sizes) {
+      const QImage image = game_icon().pixmap(size).toImage();
+      QCOMPARE(image.pixelColor(image.rect().center()).alpha(), 255);
+      QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+    }
+  }
+
   void a_box_of_few_words_leaves_its_title_room() {
     QMessageBox box(QMessageBox::NoIcon, "SuDoKu 1.0.0", "9", QMessageBox::Ok);
     fit_title(box);

@@ -71,4 +71,10 @@ QPixmap box_picture(const char* name, int side, double pixel_ratio) {
   return picture;
 }
 
+QIcon game_icon() {
+  QIcon icon;
+  for (const int side : {16, 32, 64}) icon.addPixmap(box_picture("game", side, 1));
+  return icon;
+}
+
 }  // namespace sdk

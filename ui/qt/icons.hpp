@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The pictures on buttons and in message boxes.
+/// The game's icon, and the pictures on buttons and in message boxes.
 #pragma once
 
 #include <QIcon>
@@ -14,5 +14,8 @@ QIcon button_icon(const char* name);
 
 /// The picture drawn in icons/`name`.svg, in its own colours, for a screen of that pixel ratio.
 QPixmap box_picture(const char* name, int side, double pixel_ratio);
+
+/// What desktops show for the game's windows.
+QIcon game_icon();
 
 }  // namespace sdk

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
-#include <QIcon>
 #include <QTimer>
 #include <iostream>
 
 #include "ui/qt/command_line.hpp"
 #include "ui/qt/font_reader.hpp"
+#include "ui/qt/icons.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
 
@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);  // takes its own options away
   QApplication::setApplicationName("sudoku");
   QApplication::setDesktopFileName("sudoku-pas-a-pas");
-  QApplication::setWindowIcon(QIcon::fromTheme("sudoku-pas-a-pas"));  // once it is installed
+  QApplication::setWindowIcon(sdk::game_icon());
 
   sdk::ProgramGuard guard;
   sdk::QtDesktop desktop(guard);
