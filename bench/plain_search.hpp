@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-#include "grid/types.hpp"
+#include "board/square.hpp"
 
 namespace sdk::bench {
 

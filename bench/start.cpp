@@ -21,7 +21,7 @@
 #include <vector>
 
 #include "bench/virtual_screen.hpp"
-#include "grid/colours.hpp"
+#include "screen/colours.hpp"
 
 namespace sdk::bench {
 namespace {

@@ -12,8 +12,8 @@
 
 #include "files/platform.hpp"
 #include "files/puzzle_file.hpp"
-#include "grid/errors.hpp"
-#include "grid/window.hpp"
+#include "game/window.hpp"
+#include "screen/errors.hpp"
 
 namespace sdk {
 

@@ -10,7 +10,7 @@
 
 #include <cstdint>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
 
 namespace sdk {
 

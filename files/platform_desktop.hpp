@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "grid/desktop.hpp"
+#include "screen/desktop.hpp"
 
 namespace sdk {
 

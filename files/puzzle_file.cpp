@@ -8,8 +8,8 @@
 #include <fstream>
 #include <system_error>
 
-#include "grid/errors.hpp"
-#include "grid/window.hpp"
+#include "game/window.hpp"
+#include "screen/errors.hpp"
 
 namespace sdk {
 

@@ -8,7 +8,7 @@
 #include <system_error>
 
 #include "files/platform.hpp"
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 
 namespace sdk {
 

@@ -7,10 +7,10 @@
 #include <array>
 #include <cstdint>
 
-#include "grid/types.hpp"
-#include "pas_a_pas/cell_set.hpp"
-#include "pas_a_pas/cells.hpp"
-#include "pas_a_pas/nine_set.hpp"
+#include "board/cell_set.hpp"
+#include "board/cells.hpp"
+#include "board/nine_set.hpp"
+#include "board/square.hpp"
 
 namespace sdk {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/singles.hpp"

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
 
 namespace sdk {
 

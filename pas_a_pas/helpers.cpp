@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 
 namespace sdk {
 

@@ -4,7 +4,7 @@
 /// How the tools and tests follow a run of the step-by-step solver.
 #pragma once
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 
 namespace sdk {
 

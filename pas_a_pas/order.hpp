@@ -7,7 +7,7 @@
 #include <array>
 #include <string_view>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
 
 namespace sdk {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/view.hpp"

@@ -4,7 +4,7 @@
 /// The two techniques that place a digit. Rows, columns and digits are 1..9.
 #pragma once
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
 
 namespace sdk {
 

@@ -7,9 +7,9 @@
 #include <array>
 #include <cstddef>
 
-#include "pas_a_pas/cell_set.hpp"
-#include "pas_a_pas/cells.hpp"
-#include "pas_a_pas/nine_set.hpp"
+#include "board/cell_set.hpp"
+#include "board/cells.hpp"
+#include "board/nine_set.hpp"
 
 namespace sdk {
 

@@ -7,7 +7,8 @@
 #include <array>
 #include <cstdint>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
+#include "board/square.hpp"
 #include "pas_a_pas/candidate_cube.hpp"
 #include "pas_a_pas/observer.hpp"
 #include "pas_a_pas/step.hpp"

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/helpers.hpp"
 
 namespace sdk {

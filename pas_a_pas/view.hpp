@@ -4,9 +4,9 @@
 /// The candidates in `MSR`, and the marks that show the player what a technique did.
 #pragma once
 
-#include "grid/colours.hpp"
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 #include "pas_a_pas/step.hpp"
+#include "screen/colours.hpp"
 
 namespace sdk {
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "grid/window.hpp"
-#include "puzzles/transformer.hpp"
+#include "game/window.hpp"
+#include "puzzles/stock/transformer.hpp"
 
 namespace sdk {
 
@@ -20,13 +20,13 @@ const LibraryEntry& pick() {
     throw std::out_of_range("no puzzle of level " + std::to_string(globals.NiveauCourant));
   const int first = globals.NiveauCourant * entries_per_level;
   return BibliothequeGrilles.at(
-      static_cast<std::size_t>(first + globals.generator.below(entries_per_level)));
+      static_cast<std::size_t>(first + generator.below(entries_per_level)));
 }
 
 }  // namespace
 
 void Choisir_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
-  globals.generator.reseed(sudoku().desktop().random_seed());
+  generator.reseed(sudoku().desktop().random_seed());
   const LibraryEntry& entry = pick();
   sudoku().show_count(static_cast<int>(std::ranges::count(entry.mask, '1')));
   for (int i = 1; i <= 9; ++i)
@@ -39,7 +39,7 @@ void Choisir_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
 
 void Nouvelle_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
   Choisir_Grille(resGrille, Masque);
-  Transformer_Grille(resGrille, Masque);
+  Transformer_Grille(generator, resGrille, Masque);
 }
 
 }  // namespace sdk

@@ -9,19 +9,24 @@ cd "${1:-$(dirname "${BASH_SOURCE[0]}")/..}"
 
 # folder: what its sources may include. The deepest folder that holds a file counts.
 layers='
-grid: grid
-puzzles: puzzles grid
-pas_a_pas: pas_a_pas grid
-files: files grid
-ui: ui puzzles pas_a_pas files grid
-ui/qt: ui/qt ui puzzles pas_a_pas files grid
-tools: tools ui puzzles pas_a_pas files grid
-tools/guide: tools/guide ui/qt ui puzzles pas_a_pas files grid
+board: board
+logic: logic board
+screen: screen board
+game: game screen board
+puzzles: puzzles puzzles/stock game screen board
+puzzles/stock: puzzles/stock board
+pas_a_pas: pas_a_pas logic game screen board
+files: files game screen board
+explanations: explanations logic board
+ui: ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
+ui/qt: ui/qt ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
+tools: tools ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
+tools/guide: tools/guide ui/qt ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
 tools/zolv: tools/zolv
 '
 
 echo "Checking that no include goes upward."
-find grid puzzles pas_a_pas files ui tools -name '*.[ch]pp' -print0 | sort -z |
+find board logic screen game puzzles pas_a_pas files explanations ui tools -name '*.[ch]pp' -print0 | sort -z |
   LAYERS=$layers xargs -0 awk '
     BEGIN {
       count = split(ENVIRON["LAYERS"], lines, "\n")

@@ -3,7 +3,7 @@
 
 #include "ui/about.hpp"
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "ui/messages.hpp"
 
 namespace sdk {

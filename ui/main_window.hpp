@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "grid/drawing.hpp"
-#include "grid/errors.hpp"
-#include "grid/window.hpp"
+#include "game/window.hpp"
+#include "screen/drawing.hpp"
+#include "screen/errors.hpp"
 #include "ui/about.hpp"
 #include "ui/layout.hpp"
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "grid/desktop.hpp"
+#include "screen/desktop.hpp"
 #include "ui/layout.hpp"
 
 namespace sdk {

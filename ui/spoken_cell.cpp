@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/view.hpp"
 #include "ui/messages.hpp"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "grid/display_grid.hpp"
+#include "screen/display_grid.hpp"
 
 namespace sdk {
 

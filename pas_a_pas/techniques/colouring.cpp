@@ -4,7 +4,7 @@
 // Simple colouring: along the strong links of a digit two colours alternate, and exactly one of
 // them holds it. A cell that sees both cannot (trap); a colour that sees itself is false (wrap).
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"

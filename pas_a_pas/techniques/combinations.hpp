@@ -7,7 +7,7 @@
 #include <array>
 #include <span>
 
-#include "pas_a_pas/nine_set.hpp"
+#include "board/nine_set.hpp"
 
 namespace sdk {
 

@@ -5,7 +5,7 @@
 // in whose box all fins lie loses the digit: either a fin is true and sees it, or the X-wing holds.
 // One corner may be missing.
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"

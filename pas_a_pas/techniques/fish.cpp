@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/combinations.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"

@@ -4,7 +4,7 @@
 /// What the wings around a pivot share.
 #pragma once
 
-#include "pas_a_pas/cell_set.hpp"
+#include "board/cell_set.hpp"
 
 namespace sdk {
 

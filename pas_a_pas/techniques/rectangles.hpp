@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 
 namespace sdk {
 

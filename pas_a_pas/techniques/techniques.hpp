@@ -7,7 +7,7 @@
 /// digits and places in a unit are 1..9, cell numbers 1..81.
 #pragma once
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
 
 namespace sdk {
 

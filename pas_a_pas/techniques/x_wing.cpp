@@ -4,7 +4,7 @@
 // X-wing: a digit with the same two places in two lines takes two opposite corners of that
 // rectangle, so it stands nowhere else on the two lines that cross them.
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"

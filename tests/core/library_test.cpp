@@ -11,7 +11,7 @@
 #include <map>
 #include <set>
 
-#include "puzzles/transformer.hpp"
+#include "puzzles/stock/transformer.hpp"
 #include "tests/core/solution_counter.hpp"
 #include "tests/support/game.hpp"
 
@@ -123,7 +123,7 @@ TEST_F(Picking, TakesTheEntryThatTheFirstDrawNames) {
     random.reseed(seed);
     pick(2);
     EXPECT_EQ(picked(), static_cast<int>(8 * random.draw() + 17));
-    EXPECT_EQ(globals.generator.draw(), random.draw()) << "one draw a pick";
+    EXPECT_EQ(generator.draw(), random.draw()) << "one draw a pick";
   }
 }
 
@@ -164,7 +164,7 @@ TEST_F(Picking, ForANewPuzzleIsFollowedByTheTransformerOnTheSameGenerator) {
   globals.NiveauCourant = 3;
   game.desktop.next_seed = 77;
   Choisir_Grille(w.resGrille, w.Masque);
-  Transformer_Grille(w.resGrille, w.Masque);
+  Transformer_Grille(generator, w.resGrille, w.Masque);
   const auto solution = w.resGrille;
   const auto mask = w.Masque;
   game.desktop.next_seed = 77;

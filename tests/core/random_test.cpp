@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-#include "grid/random.hpp"
+#include "puzzles/stock/random.hpp"
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "puzzles/stock/random.hpp"
 #include "tests/core/plain_search.hpp"
 #include "tests/support/game.hpp"
 

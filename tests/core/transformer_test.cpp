@@ -3,7 +3,7 @@
 
 // The changes that disguise a stored puzzle.
 
-#include "puzzles/transformer.hpp"
+#include "puzzles/stock/transformer.hpp"
 
 #include <gtest/gtest.h>
 
@@ -39,8 +39,8 @@ Puzzle stored(int number) {
 }
 
 Puzzle transformed(Puzzle puzzle, std::uint32_t seed) {
-  globals.generator.reseed(seed);
-  Transformer_Grille(puzzle.solution, puzzle.mask);
+  generator.reseed(seed);
+  Transformer_Grille(generator, puzzle.solution, puzzle.mask);
   return puzzle;
 }
 
@@ -252,10 +252,10 @@ TEST(Relabelling, GivesEveryDigitEveryNameEquallyOften) {
 TEST(Melanger, GivesEveryOrderEquallyOften) {
   constexpr int runs = 24000;
   std::map<List, int> times;
-  globals.generator.reseed(2);
+  generator.reseed(2);
   for (int i = 0; i < runs; ++i) {
     List list{0, 1, 2, 3};
-    Melanger(list);
+    Melanger(generator, list);
     ++times[list];
   }
   EXPECT_EQ(times.size(), 24u);
@@ -264,19 +264,19 @@ TEST(Melanger, GivesEveryOrderEquallyOften) {
 
 TEST(Melanger, DrawsOncePerElementAndKeepsThemAll) {
   List list{7, 5, 0, 5};
-  globals.generator.reseed(9);
-  Melanger(list);
+  generator.reseed(9);
+  Melanger(generator, list);
   std::ranges::sort(list);
   EXPECT_EQ(list, (List{0, 5, 5, 7}));
   Random random;
   random.reseed(9);
   for (int i = 0; i < 4; ++i) random.draw();
-  EXPECT_EQ(globals.generator.draw(), random.draw());
+  EXPECT_EQ(generator.draw(), random.draw());
 }
 
 TEST(Melanger, LeavesAnEmptyListAlone) {
   List list;
-  Melanger(list);
+  Melanger(generator, list);
   EXPECT_TRUE(list.empty());
 }
 

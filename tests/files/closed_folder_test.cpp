@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "files/safe_write.hpp"
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 #include "tests/files/failing_steps.hpp"
 #include "tests/files/machine.hpp"
 #include "tests/support/fake_desktop.hpp"

@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 #include "tests/files/failing_steps.hpp"
 #include "tests/files/machine.hpp"
 #include "tests/support/fake_desktop.hpp"

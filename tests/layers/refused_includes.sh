@@ -8,7 +8,8 @@ set -euo pipefail
 check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
-mkdir -p "$tree"/{grid,puzzles,pas_a_pas/techniques,files,ui/qt,tools/{script,guide,zolv}}
+mkdir -p "$tree"/{board,logic/techniques,screen,game,puzzles/stock,pas_a_pas,files,explanations,ui/qt} \
+  "$tree"/tools/{script,guide,zolv}
 touch "$tree"/tools/zolv/beside.hpp
 failures=0
 
@@ -26,10 +27,14 @@ expect() { # STATUS EXPECTED-OUTPUT FILE LINE: what the check says of FILE with 
 accepted() { expect 0 "" "$@"; }
 refused() { expect 1 "$1:2: " "$@"; }
 
-accepted grid/a.cpp '#include "grid/window.hpp"'
-accepted grid/a.cpp '#include <queue>'
-accepted puzzles/a.hpp '#include "grid/types.hpp"'
-accepted pas_a_pas/techniques/a.cpp '#include "pas_a_pas/cube.hpp"'
+accepted board/a.cpp '#include <queue>'
+accepted logic/techniques/a.cpp '#include "logic/position.hpp"'
+accepted logic/a.cpp '#include "board/cells.hpp"'
+accepted game/a.cpp '#include "screen/desktop.hpp"'
+accepted puzzles/a.hpp '#include "board/square.hpp"'
+accepted puzzles/a.cpp '#include "puzzles/stock/library_table.hpp"'
+accepted pas_a_pas/a.cpp '#include "logic/run.hpp"'
+accepted explanations/a.cpp '#include "logic/deduction.hpp"'
 accepted ui/a.cpp '#include "files/puzzle_file.hpp"'
 accepted ui/qt/a.cpp '#include <QWidget>'
 accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
@@ -38,20 +43,30 @@ accepted tools/guide/a.cpp '#include <QImage>'
 accepted tools/guide/a.cpp '#include "ui/qt/main_frame.hpp"'
 accepted tools/zolv/a.cpp '#include "beside.hpp"'
 
-refused grid/a.cpp '#include "ui/main_window.hpp"'
-refused grid/a.hpp '#  include <puzzles/library.hpp>'
+refused board/a.cpp '#include "screen/colours.hpp"'
+refused logic/a.cpp '#include "game/globals.hpp"'
+refused logic/techniques/a.cpp '#include "screen/display_grid.hpp"'
+refused logic/a.hpp '#include "explanations/explanations.hpp"'
+refused screen/a.cpp '#include "game/window.hpp"'
+refused screen/a.cpp '#include "logic/position.hpp"'
+refused game/a.cpp '#include "ui/main_window.hpp"'
+refused game/a.cpp '#include "logic/run.hpp"'
+refused game/a.hpp '#  include <puzzles/library.hpp>'
 refused puzzles/a.cpp '#include "files/puzzle_file.hpp"'
-refused pas_a_pas/techniques/a.cpp '#include "ui/layout.hpp"'
-refused files/a.cpp '#include "pas_a_pas/cube.hpp"'
+refused puzzles/stock/a.cpp '#include "game/globals.hpp"'
+refused pas_a_pas/a.cpp '#include "ui/layout.hpp"'
+refused pas_a_pas/a.cpp '#include "explanations/explanations.hpp"'
+refused files/a.cpp '#include "pas_a_pas/driver.hpp"'
+refused explanations/a.cpp '#include "game/globals.hpp"'
 refused ui/a.cpp '#include "ui/qt/board.hpp"'
 refused ui/a.cpp '#include "tests/support.hpp"'
 refused ui/a.cpp '#include "layout.hpp"'
 refused ui/a.cpp '#include <QWidget>'
 refused ui/a.cpp '#include <QtGui/QPen>'
-refused grid/a.cpp '#include "qpoint.h"'
+refused board/a.cpp '#include "qpoint.h"'
 refused tools/script/a.cpp '#include <QCoreApplication>'
 refused tools/script/a.cpp '#include "ui/qt/main_frame.hpp"'
 refused tools/guide/a.cpp '#include "tools/script/script.hpp"'
-refused tools/zolv/a.cpp '#include "grid/types.hpp"'
+refused tools/zolv/a.cpp '#include "board/square.hpp"'
 
 exit $((failures > 0))

@@ -6,7 +6,7 @@
 #include <iomanip>
 #include <sstream>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 #include "pas_a_pas/view.hpp"

@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"
 
 namespace sdk::test {

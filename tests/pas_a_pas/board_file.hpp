@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
+#include "board/square.hpp"
 #include "tests/pas_a_pas/drawn_cell.hpp"
 
 namespace sdk::test {

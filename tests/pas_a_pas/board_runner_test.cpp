@@ -15,7 +15,7 @@
 #include <iterator>
 #include <vector>
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/techniques/techniques.hpp"

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "pas_a_pas/nine_set.hpp"
+#include "board/nine_set.hpp"
 
 namespace sdk::test {
 

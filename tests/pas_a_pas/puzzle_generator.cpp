@@ -7,7 +7,7 @@
 #include <numeric>
 #include <utility>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 #include "tests/core/solution_counter.hpp"
 
 namespace sdk::test {

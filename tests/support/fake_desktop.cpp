@@ -8,7 +8,7 @@
 #include <iterator>
 #include <system_error>
 
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 
 namespace sdk::test {
 

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 #include "puzzles/library.hpp"
 #include "tests/transcripts/tool.hpp"
 #include "tools/walk/walk.hpp"

@@ -7,7 +7,7 @@
 #include <QDialog>
 #include <QLabel>
 
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 #include "tests/window/play.hpp"
 #include "ui/qt/contrast.hpp"
 #include "ui/version.hpp"

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 
 namespace sdk {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "grid/controls.hpp"
+#include "screen/controls.hpp"
 
 namespace sdk {
 

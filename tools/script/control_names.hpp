@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-#include "grid/controls.hpp"
+#include "screen/controls.hpp"
 #include "ui/about.hpp"
 
 namespace sdk {

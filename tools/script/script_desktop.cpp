@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "files/platform.hpp"
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "grid/colours.hpp"
-#include "grid/drawing.hpp"
+#include "screen/colours.hpp"
+#include "screen/drawing.hpp"
 
 namespace sdk {
 

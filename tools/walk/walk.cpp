@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "grid/errors.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/view.hpp"
 #include "puzzles/library.hpp"
+#include "screen/errors.hpp"
 #include "ui/explanations.hpp"
 
 namespace sdk {

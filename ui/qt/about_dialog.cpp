@@ -8,7 +8,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "ui/qt/about_label.hpp"
 #include "ui/qt/accessibility.hpp"
 

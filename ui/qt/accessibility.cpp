@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "ui/qt/about_label.hpp"
 
 namespace sdk {

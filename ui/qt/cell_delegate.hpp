@@ -6,7 +6,7 @@
 
 #include <QAbstractItemDelegate>
 
-#include "grid/display_grid.hpp"
+#include "screen/display_grid.hpp"
 
 namespace sdk {
 

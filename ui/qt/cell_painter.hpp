@@ -7,7 +7,7 @@
 #include <QColor>
 #include <QString>
 
-#include "grid/display_grid.hpp"
+#include "screen/display_grid.hpp"
 
 class QPainter;
 class QRect;

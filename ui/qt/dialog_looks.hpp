@@ -4,7 +4,7 @@
 /// What Qt's own dialogs need to be read whole and sharp on every screen.
 #pragma once
 
-#include "grid/desktop.hpp"
+#include "screen/desktop.hpp"
 
 class QFileDialog;
 class QMessageBox;

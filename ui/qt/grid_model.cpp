@@ -3,7 +3,7 @@
 
 #include "ui/qt/grid_model.hpp"
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 #include "ui/messages.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/spoken_cell.hpp"

@@ -7,7 +7,7 @@
 #include <QTableView>
 #include <optional>
 
-#include "grid/display_grid.hpp"
+#include "screen/display_grid.hpp"
 #include "ui/qt/cell_announcer.hpp"
 #include "ui/qt/cell_delegate.hpp"
 #include "ui/qt/deferred_call.hpp"

@@ -4,8 +4,8 @@
 /// A page of the core on paper.
 #pragma once
 
-#include "grid/display_grid.hpp"
-#include "grid/drawing.hpp"
+#include "screen/display_grid.hpp"
+#include "screen/drawing.hpp"
 
 class QPagedPaintDevice;
 class QPainter;

@@ -9,8 +9,8 @@
 #include <memory>
 #include <system_error>
 
-#include "grid/errors.hpp"
-#include "grid/window.hpp"
+#include "game/window.hpp"
+#include "screen/errors.hpp"
 #include "ui/qt/page_painter.hpp"
 
 namespace sdk {

@@ -4,7 +4,7 @@
 /// The system's default printer.
 #pragma once
 
-#include "grid/desktop.hpp"
+#include "screen/desktop.hpp"
 
 namespace sdk {
 

@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 
 namespace sdk {
 

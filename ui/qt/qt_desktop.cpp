@@ -12,7 +12,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "grid/errors.hpp"
+#include "screen/errors.hpp"
 #include "ui/qt/dialog_looks.hpp"
 #include "ui/qt/printing_service.hpp"
 

@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
-#include "grid/globals.hpp"
+#include "game/globals.hpp"
 
 namespace sdk {
 

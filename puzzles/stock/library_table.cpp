@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-#include "puzzles/library.hpp"
+#include "puzzles/stock/library_table.hpp"
 
 namespace sdk {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "grid/drawing.hpp"
+#include "screen/drawing.hpp"
 
 namespace sdk {
 

@@ -8,7 +8,7 @@
 #include <bit>
 #include <cstdint>
 
-#include "pas_a_pas/cells.hpp"
+#include "board/cells.hpp"
 
 namespace sdk {
 

@@ -1,20 +1,18 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-#include "puzzles/transformer.hpp"
+#include "puzzles/stock/transformer.hpp"
 
 #include <array>
 #include <utility>
 #include <vector>
 
-#include "grid/globals.hpp"
-
 namespace sdk {
 
-void Melanger(std::span<int> list) {
+void Melanger(Random& generator, std::span<int> list) {
   std::vector<int> unused(list.begin(), list.end());
   for (std::size_t i = list.size(); i-- > 0;) {
-    const auto chosen = unused.begin() + globals.generator.below(static_cast<int>(i) + 1);
+    const auto chosen = unused.begin() + generator.below(static_cast<int>(i) + 1);
     list[i] = *chosen;
     unused.erase(chosen);
   }
@@ -46,9 +44,9 @@ void Renumeroter(std::span<const int, 9> digits, Square<std::uint8_t>& resGrille
 
 namespace {
 
-std::array<int, 3> shuffled_trio() {
+std::array<int, 3> shuffled_trio(Random& generator) {
   std::array<int, 3> trio{1, 2, 3};
-  Melanger(trio);
+  Melanger(generator, trio);
   return trio;
 }
 
@@ -64,9 +62,9 @@ void transpose(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
 /// only when k is smaller is meant: the third item never comes out first with the others in order,
 /// and the reversed trio comes out twice as often as each other arrangement.
 template <class Exchange>
-void exchange_trios(int base, Exchange exchange) {
-  const auto horizontal = shuffled_trio();
-  const auto vertical = shuffled_trio();
+void exchange_trios(Random& generator, int base, Exchange exchange) {
+  const auto horizontal = shuffled_trio(generator);
+  const auto vertical = shuffled_trio(generator);
   for (int k = 1; k <= 3; ++k) {
     const auto index = static_cast<std::size_t>(k - 1);
     if (k < horizontal[index]) exchange("horizontal", base + k, base + horizontal[index]);
@@ -76,17 +74,18 @@ void exchange_trios(int base, Exchange exchange) {
 
 }  // namespace
 
-void Transformer_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
-  if (globals.generator.below(2) == 0) transpose(resGrille, Masque);
-  exchange_trios(0, [&](std::string_view direction, int a, int b) {
+void Transformer_Grille(Random& generator, Square<std::uint8_t>& resGrille,
+                        Square<Bool16>& Masque) {
+  if (generator.below(2) == 0) transpose(resGrille, Masque);
+  exchange_trios(generator, 0, [&](std::string_view direction, int a, int b) {
     Echanger_Bandes(resGrille, Masque, direction, a, b);
   });
   for (int band = 1; band <= 3; ++band)
-    exchange_trios(3 * band - 3, [&](std::string_view direction, int a, int b) {
+    exchange_trios(generator, 3 * band - 3, [&](std::string_view direction, int a, int b) {
       Echanger(resGrille, Masque, direction, a, b);
     });
   std::array<int, 9> digits{1, 2, 3, 4, 5, 6, 7, 8, 9};
-  Melanger(digits);
+  Melanger(generator, digits);
   Renumeroter(digits, resGrille);
 }
 

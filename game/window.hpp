@@ -9,11 +9,12 @@
 #include <string>
 #include <string_view>
 
-#include "grid/controls.hpp"
-#include "grid/desktop.hpp"
-#include "grid/display_grid.hpp"
-#include "grid/globals.hpp"
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
+#include "board/square.hpp"
+#include "game/globals.hpp"
+#include "screen/controls.hpp"
+#include "screen/desktop.hpp"
+#include "screen/display_grid.hpp"
 
 namespace sdk {
 

@@ -8,7 +8,7 @@
 #include <array>
 #include <string>
 
-#include "grid/colours.hpp"
+#include "screen/colours.hpp"
 
 namespace sdk {
 

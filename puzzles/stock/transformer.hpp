@@ -2,23 +2,25 @@
 // SPDX-License-Identifier: MIT
 
 /// Disguises a puzzle by changes that keep it valid and as difficult as it was.
-/// Every draw continues the generator that Choisir_Grille has reseeded.
+/// Every draw is of the generator that it is given.
 #pragma once
 
 #include <cstdint>
 #include <span>
 #include <string_view>
 
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
+#include "board/square.hpp"
+#include "puzzles/stock/random.hpp"
 
 namespace sdk {
 
 /// Transposes at random, exchanges bands, stacks, rows and columns, and relabels the digits. The
 /// number of givens stays, and each given stays with its digit's cell.
-void Transformer_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque);
+void Transformer_Grille(Random& generator, Square<std::uint8_t>& resGrille, Square<Bool16>& Masque);
 
 /// Shuffles `list` in place, every order equally likely. Elements must not be negative.
-void Melanger(std::span<int> list);
+void Melanger(Random& generator, std::span<int> list);
 
 /// Exchanges lines a and b (1..9) in both squares: rows when `direction` is "vertical", columns
 /// when it is "horizontal"; any other word changes nothing.

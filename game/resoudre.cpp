@@ -3,8 +3,8 @@
 
 // The depth-first search over the 81 cells in row-major order.
 
-#include "grid/unit_counts.hpp"
-#include "grid/window.hpp"
+#include "board/unit_counts.hpp"
+#include "game/window.hpp"
 
 namespace sdk {
 

@@ -9,9 +9,8 @@
 #include <cstdint>
 #include <string>
 
-#include "grid/colours.hpp"
-#include "grid/random.hpp"
-#include "grid/types.hpp"
+#include "board/bool16.hpp"
+#include "screen/colours.hpp"
 
 namespace sdk {
 
@@ -27,7 +26,6 @@ struct Globals {
   Bool16 ArretDemande;                       ///< Escape was pressed: the search is to stop
   Bool16 ModePasAPas;                        ///< a hint was asked for; never set back
   std::string TitreFenetre;                  ///< "SuDoKu " and the version
-  Random generator;                          ///< reseeded at each pick of a puzzle
 };
 
 inline Globals globals;

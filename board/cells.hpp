@@ -8,7 +8,7 @@
 
 #include <array>
 
-#include "pas_a_pas/nine_set.hpp"
+#include "board/nine_set.hpp"
 
 namespace sdk {
 

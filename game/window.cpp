@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-#include "grid/window.hpp"
+#include "game/window.hpp"
 
 #include <algorithm>
 #include <cassert>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-#include "grid/display_grid.hpp"
+#include "screen/display_grid.hpp"
 
 #include <algorithm>
 #include <cassert>
