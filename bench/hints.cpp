@@ -17,8 +17,8 @@
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "puzzles/library.hpp"
-#include "tests/core/solution_counter.hpp"
 #include "tests/pas_a_pas/puzzle_generator.hpp"
+#include "tests/support/solution_counter.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace sdk::bench {

@@ -10,8 +10,8 @@
 #include "files/safe_write.hpp"
 #include "screen/errors.hpp"
 #include "tests/files/failing_steps.hpp"
-#include "tests/files/machine.hpp"
 #include "tests/support/fake_desktop.hpp"
+#include "tests/support/machine.hpp"
 
 namespace sdk::test {
 namespace {

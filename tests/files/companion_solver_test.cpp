@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "puzzles/library.hpp"
-#include "tests/files/machine.hpp"
 #include "tests/support/game.hpp"
+#include "tests/support/machine.hpp"
 
 namespace sdk::test {
 namespace {

@@ -10,8 +10,8 @@
 #include <algorithm>
 
 #include "files/puzzle_file.hpp"
-#include "tests/files/machine.hpp"
 #include "tests/support/game.hpp"
+#include "tests/support/machine.hpp"
 #include "ui/state_check.hpp"
 
 namespace sdk::test {

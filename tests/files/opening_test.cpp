@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/files/machine.hpp"
 #include "tests/support/game.hpp"
+#include "tests/support/machine.hpp"
 #include "ui/state_check.hpp"
 
 namespace sdk::test {

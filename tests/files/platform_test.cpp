@@ -18,8 +18,8 @@
 #include <thread>
 
 #include "files/external_solver.hpp"
-#include "tests/files/machine.hpp"
 #include "tests/support/game.hpp"
+#include "tests/support/machine.hpp"
 
 namespace sdk::test {
 namespace {

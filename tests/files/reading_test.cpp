@@ -9,8 +9,8 @@
 #include <random>
 
 #include "files/puzzle_file.hpp"
-#include "tests/files/machine.hpp"
 #include "tests/support/game.hpp"
+#include "tests/support/machine.hpp"
 
 namespace sdk::test {
 namespace {

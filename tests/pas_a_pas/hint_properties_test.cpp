@@ -14,9 +14,9 @@
 #include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/view.hpp"
-#include "tests/core/solution_counter.hpp"
 #include "tests/pas_a_pas/hint_game.hpp"
 #include "tests/pas_a_pas/puzzle_generator.hpp"
+#include "tests/support/solution_counter.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace sdk::test {

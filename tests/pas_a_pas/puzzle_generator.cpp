@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "board/cells.hpp"
-#include "tests/core/solution_counter.hpp"
+#include "tests/support/solution_counter.hpp"
 
 namespace sdk::test {
 

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/machine.hpp"
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+#include <vector>
+
+namespace sdk::test {
+
+namespace fs = std::filesystem;
+
+ScratchFolder::ScratchFolder() {
+  std::string name = (fs::temp_directory_path() / "sudoku-files-XXXXXX").string();
+  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+  folder_ = name;
+  fs::permissions(folder_, fs::perms(0755));
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;
+  fs::remove_all(folder_, ignored);
+}
+
+std::string ScratchFolder::names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder_))
+    names.push_back(entry.path().filename().string());
+  std::ranges::sort(names);
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : " ") + name;
+  return text;
+}
+
+namespace {
+
+void set(const std::string& name, const std::optional<std::string>& value) {
+  if (value)
+    setenv(name.c_str(), value->c_str(), 1);
+  else
+    unsetenv(name.c_str());
+}
+
+}  // namespace
+
+Variable::Variable(std::string name, const std::optional<std::string>& value)
+    : name_(std::move(name)) {
+  if (const char* before = std::getenv(name_.c_str())) before_ = before;
+  set(name_, value);
+}
+
+Variable::~Variable() { set(name_, before_); }
+
+PlainUser::PlainUser() : was_root_(geteuid() == 0) {
+  constexpr uid_t nobody = 65534;
+  if (was_root_ && (setegid(nobody) != 0 || seteuid(nobody) != 0))
+    throw std::runtime_error("root cannot become nobody");
+}
+
+PlainUser::~PlainUser() {
+  if (was_root_ && (seteuid(0) != 0 || setegid(0) != 0)) std::abort();
+}
+
+namespace {
+
+void limit_files(rlim_t bytes) {
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  limit.rlim_cur = std::min(bytes, limit.rlim_max);
+  if (setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("no limit for files");
+}
+
+}  // namespace
+
+FileLimit::FileLimit(std::size_t bytes) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  limit_files(bytes);
+}
+
+FileLimit::~FileLimit() {
+  limit_files(RLIM_INFINITY);
+  std::signal(SIGXFSZ, SIG_DFL);
+}
+
+void write_file(const fs::path& file, std::string_view bytes) {
+  std::ofstream stream(file, std::ios::binary);
+  stream << bytes << std::flush;
+  if (!stream) throw std::runtime_error("cannot write " + file.string());
+}
+
+unsigned rights_of(const fs::path& file) {
+  return static_cast<unsigned>(fs::status(file).permissions()) & 0777u;
+}
+
+}  // namespace sdk::test

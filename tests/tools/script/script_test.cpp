@@ -1,0 +1,290 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// The text front end by itself: its commands, its formats and its exit statuses.
+
+#include "tools/script/script.hpp"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+#include "tests/support/tool.hpp"
+#include "tools/script/commands.hpp"
+#include "tools/script/help.hpp"
+#include "tools/script/keyboard.hpp"
+#include "tools/script/show.hpp"
+#include "tools/script/text_format.hpp"
+
+namespace sdk::test {
+namespace {
+
+/// A script in this process.
+class ScriptRun {
+ public:
+  /// What the lines print.
+  std::string play(const std::string& lines) {
+    out_.str("");
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) script.run(line);
+    return out_.str();
+  }
+
+ private:
+  std::ostringstream out_, errors_;
+
+ public:
+  Script script{out_, errors_};
+};
+
+/// A start on an empty grid whose cells all take digits.
+const char* const empty_grid = "seed 1\ncheck Check3 off\nclick Command2\n";
+
+TEST(Script, help_tells_every_command_and_everything_that_can_be_shown) {
+  const std::string help = help_text();
+  for (const char* name : {"seed", "printer", "year", "program", "tmp", "click", "check", "level",
+                           "select", "key", "answer", "at", "close", "show"}) {
+    EXPECT_NE(command_named(name), nullptr) << name;
+    EXPECT_NE(help.find("\n  " + std::string(name) + ' '), help.npos) << name;
+  }
+  for (const Topic& topic : topics())
+    EXPECT_NE(help.find("\n  " + std::string(topic.name)), help.npos) << topic.name;
+}
+
+TEST(Script, every_command_of_the_help_exists) {
+  std::istringstream help(run_tool(SUDOKU_SCRIPT " --help").output);
+  std::string line;
+  while (std::getline(help, line) && line != "Commands") continue;
+  int commands_told = 0;
+  while (std::getline(help, line) && !line.empty()) {
+    if (line[2] == ' ') continue;  // goes on with the meaning
+    ++commands_told;
+    const std::string name = line.substr(2, line.find(' ', 2) - 2);
+    if (name == "export") continue;  // would leave a file behind
+    const std::string answer = ScriptRun().play(name);
+    EXPECT_EQ(answer.find("unknown"), answer.npos) << name << ": " << answer;
+  }
+  EXPECT_EQ(commands_told, 17);
+}
+
+TEST(Script, everything_that_the_help_names_can_be_shown) {
+  ScriptRun run;
+  for (const Topic& topic : topics()) {
+    std::string command = "show " + std::string(topic.name);
+    if (topic.arguments == "NAME") command += " Command1";
+    if (topic.arguments == "I") command += " 0";
+    if (topic.arguments == "PATH") command += " /proc/version";
+    const std::string printed = run.play(command);
+    EXPECT_EQ(printed.find("error"), printed.npos) << command << ": " << printed;
+    EXPECT_TRUE(printed.ends_with('\n')) << command;
+  }
+}
+
+TEST(Script, the_settings_and_comments_do_not_start_the_program) {
+  ScriptRun run;
+  EXPECT_EQ(run.play("# nothing\n\n   \nseed 1\nprinter on\nyear 2026\nprogram /\ntmp /tmp\n"), "");
+  EXPECT_FALSE(run.script.running());
+  run.play("unheard-of");
+  EXPECT_TRUE(run.script.running());
+}
+
+TEST(Script, a_sharp_starts_a_comment_but_not_inside_a_word) {
+  EXPECT_EQ(ScriptRun().play("show focus # where\n  # only a comment\nshow file a#b\n"),
+            "MSF\nerror: cannot read a#b\n");
+}
+
+TEST(Script, a_fault_is_printed_and_the_run_goes_on) {
+  const ToolRun run = run_tool("printf 'bad\\nshow focus\\n' | " SUDOKU_SCRIPT);
+  EXPECT_EQ(run.output, "error: unknown command: bad\nMSF\n");
+  EXPECT_EQ(run.status, 2);
+}
+
+TEST(Script, the_status_is_0_without_a_fault_and_2_for_an_option_that_does_not_exist) {
+  EXPECT_EQ(run_tool("printf 'show focus\\n' | " SUDOKU_SCRIPT).status, 0);
+  EXPECT_EQ(run_tool(SUDOKU_SCRIPT " --help").status, 0);
+  EXPECT_EQ(run_tool(SUDOKU_SCRIPT " --walk").status, 2);
+}
+
+TEST(Script, malformed_commands_are_faults) {
+  for (const char* line : {"seed",
+                           "seed -1",
+                           "seed 4294967296",
+                           "seed 1 2",
+                           "seed x",
+                           "printer",
+                           "printer maybe",
+                           "year",
+                           "year x",
+                           "program",
+                           "tmp",
+                           "click",
+                           "click Check1",
+                           "click MSF",
+                           "click command1",
+                           "check",
+                           "check Check1",
+                           "check Check1 yes",
+                           "check Command1 on",
+                           "level",
+                           "level 5",
+                           "level -1",
+                           "level Moyen",
+                           "level 1 2",
+                           "select",
+                           "select 1",
+                           "select 0 1",
+                           "select 1 10",
+                           "select 1 1 2",
+                           "select 1 1 2 3 4",
+                           "key",
+                           "key A",
+                           "key kp",
+                           "key kpx",
+                           "key kp10",
+                           "key 10",
+                           "key Tab",
+                           "key 1 2",
+                           "answer",
+                           "answer maybe",
+                           "answer file",
+                           "at",
+                           "at 1",
+                           "at 0 key 1",
+                           "at x key 1",
+                           "at 1 unheard",
+                           "at 1 key Tab",
+                           "close",
+                           "close door",
+                           "show",
+                           "show nothing",
+                           "show MSF 1",
+                           "show MSF 1 1 1",
+                           "show MSF front",
+                           "show tooltip",
+                           "show tooltip nobody",
+                           "show message",
+                           "show message 35",
+                           "show current 1"}) {
+    ScriptRun run;
+    const std::string printed = run.play(line);
+    EXPECT_TRUE(printed.starts_with("error: ")) << line << ": " << printed;
+    EXPECT_EQ(run.script.exit_status(), 2) << line;
+  }
+}
+
+TEST(Script, after_the_end_every_command_but_comments_is_a_fault) {
+  ScriptRun run;
+  EXPECT_EQ(run.play("close session\n# comment\n\nshow focus\nseed 1\n"),
+            "ended 0\nerror: the program has ended\nerror: the program has ended\n");
+  EXPECT_FALSE(run.script.running());
+}
+
+TEST(Script, without_a_seed_two_quick_puzzles_differ) {
+  ScriptRun run;
+  std::set<std::string> puzzles;
+  for (int i = 0; i < 20; ++i) puzzles.insert(run.play("click Command1\nshow ChaineSolution"));
+  EXPECT_EQ(puzzles.size(), 20u);
+}
+
+TEST(Script, an_event_happens_at_its_step_of_the_next_search) {
+  ScriptRun run;
+  run.play(empty_grid);
+  EXPECT_EQ(run.play("at 1 show NumCase\nat 2 show NumCase\nat 4 show NumCase\n"
+                     "at 4 key Escape\nclick Bouton_GO"),
+            "pointer hourglass\n1\n2\n3\nbox critical \"SuDoKu 1.0.0\" \"Résolution interrompu!\" "
+            "ok -> ok\npointer arrow\n");
+}
+
+TEST(Script, events_of_one_step_happen_in_the_order_in_which_they_were_queued) {
+  ScriptRun run;
+  run.play(empty_grid);
+  const std::string printed =
+      run.play("at 3 show Colonne\nat 3 key Escape\nat 3 show ArretDemande\nclick Bouton_GO");
+  EXPECT_NE(printed.find("2\n-1\n"), printed.npos) << printed;
+}
+
+TEST(Script, an_event_that_its_search_did_not_reach_is_dropped) {
+  ScriptRun run;
+  run.play(empty_grid);
+  run.play("at 100 show focus\nat 5 key Escape\nclick Bouton_GO");
+  const std::string printed = run.play("at 200 key Escape\nclick Bouton_GO");
+  EXPECT_EQ(printed.find("MSF"), printed.npos) << printed;
+}
+
+TEST(Script, events_wait_for_a_search_whatever_is_done_before) {
+  ScriptRun run;
+  run.play(empty_grid);
+  EXPECT_EQ(run.play("at 5 key Escape\nselect 1 1\nkey Right\n"), "");
+  EXPECT_NE(run.play("click Bouton_GO").find("interrompu"), std::string::npos);
+}
+
+TEST(Script, a_nested_search_counts_its_own_steps) {
+  ScriptRun run;
+  run.play(empty_grid);
+  const std::string printed = run.play(
+      "at 10 at 3 show NumCase\nat 10 at 3 key Escape\nat 10 click Bouton_GO\n"
+      "at 11 show focus\nclick Bouton_GO");
+  EXPECT_NE(printed.find("pointer hourglass\n2\nbox critical"), printed.npos) << printed;
+  EXPECT_EQ(printed.find("MSF"), printed.npos) << "the outer search is stopped as well";
+}
+
+TEST(Script, a_step_goes_on_after_the_search_that_it_started) {
+  ScriptRun run;
+  run.play(empty_grid);
+  const std::string printed =
+      run.play("at 2 click Bouton_GO\nat 2 show NumCase\nat 3 show focus\nclick Bouton_GO");
+  EXPECT_NE(printed.find("terminée!!\" ok -> ok\n82\nMSF\nbox"), printed.npos) << printed;
+}
+
+TEST(Script, a_standing_event_happens_in_every_search_last_of_its_step) {
+  ScriptRun run;
+  run.play(empty_grid);
+  run.script.schedule().add_to_every_search(
+      3, [&run] { run.script.window().preview_key(key::escape); });
+  for (int i = 0; i < 2; ++i)
+    EXPECT_NE(run.play("at 3 show NumCase\nclick Bouton_GO").find("2\nbox critical"),
+              std::string::npos);
+}
+
+TEST(Script, texts_are_quoted_and_escaped) {
+  EXPECT_EQ(in_quotes("a\tb\r\nc\"d\\é"), "\"a\\tb\\r\\nc\\\"d\\\\é\"");
+  EXPECT_EQ(in_quotes(""), "\"\"");
+}
+
+TEST(Script, texts_of_the_code_page_are_printed_in_utf_8) {
+  EXPECT_EQ(from_code_page("a\xE9\xFF"), "aéÿ");
+}
+
+TEST(Script, colours_are_printed_red_first) {
+  EXPECT_EQ(colour_text(colour::red), "FF0000");
+  EXPECT_EQ(colour_text(colour::level[2]), "FFE0C0");
+}
+
+TEST(Script, coordinates_are_printed_without_trailing_zeros) {
+  EXPECT_EQ(decimal(935.5f), "935.5");
+  EXPECT_EQ(decimal(2340), "2340");
+  EXPECT_EQ(decimal(-10.25f), "-10.25");
+  EXPECT_EQ(decimal(0), "0");
+  EXPECT_EQ(decimal(16777216), "16777216");
+}
+
+TEST(Script, every_key_has_the_code_of_the_window) {
+  struct {
+    const char* name;
+    int code;
+    bool ctrl;
+  } const keys[] = {{"0", 48, false},      {"9", 57, false},        {"kp0", 96, false},
+                    {"kp9", 105, false},   {"a", 65, false},        {"z", 90, false},
+                    {"Delete", 46, false}, {"Backspace", 8, false}, {"Left", 37, false},
+                    {"Up", 38, false},     {"Right", 39, false},    {"Down", 40, false},
+                    {"Ctrl+C", 67, true},  {"Ctrl+A", 65, true},    {"F1", 112, false},
+                    {"F2", 113, false},    {"Escape", 27, false}};
+  for (const auto& [name, code, ctrl] : keys) {
+    EXPECT_EQ(key_named(name).code, code) << name;
+    EXPECT_EQ(key_named(name).ctrl, ctrl) << name;
+  }
+}
+
+}  // namespace
+}  // namespace sdk::test

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Puzzle files in the real window and in the real program.
+
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "tests/ui/qt/play.hpp"
+#include "ui/state_check.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+constexpr const char* puzzle =
+    "987654321\n1.5927468\n642138579\n426571983\n793482156\n518396742\n371865294\n2697438.5\n"
+    ".5421963.\n";
+
+/// Chooses a file in the next file dialog.
+void choose(const QString& path) {
+  later(100, [path] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) qFatal("no file dialog is open");
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    static_cast<QDialog*>(dialog)->accept();
+  });
+}
+
+}  // namespace
+
+class OpeningTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    QFile file(path("my puzzle.sdk"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(puzzle);
+  }
+
+  void a_puzzle_opens_from_the_dialog() {
+    Play play;
+    choose(path("my puzzle.sdk"));
+    play.click("Command6");
+    QCOMPARE(play.text(1, 1), "9");
+    QCOMPARE(play.text(2, 2), " ");
+    QCOMPARE(play.frame.windowTitle(), path("my puzzle.sdk"));
+    QCOMPARE(play.frame.cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(play.window.ChaineSolution.substr(9, 3), std::string("135"));
+    QCOMPARE(state_fault(play.window), "");
+  }
+
+  void a_cancelled_dialog_changes_nothing() {
+    Play play;
+    const QString title = play.frame.windowTitle();
+    later(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    play.click("Command6");
+    QCOMPARE(play.frame.windowTitle(), title);
+  }
+
+  void a_saved_puzzle_opens_in_another_program() {
+    QString first;
+    {
+      Play play;
+      choose(path("saved.sdk"));
+      play.click("sauve");
+      for (int r = 1; r <= 9; ++r)
+        for (int c = 1; c <= 9; ++c) first += play.text(r, c);
+    }
+    Play play;
+    choose(path("saved.sdk"));
+    play.click("Command6");
+    QString second;
+    for (int r = 1; r <= 9; ++r)
+      for (int c = 1; c <= 9; ++c) second += play.text(r, c);
+    QCOMPARE(second, first);
+  }
+
+  void a_save_that_fails_keeps_the_grid_and_ends() {
+    Play play;
+    BoxAnswer ok(QMessageBox::Ok);
+    choose(path("none/a.sdk"));
+    QCOMPARE(play.run_program([&] { play.click("sauve"); }), 1);
+    QVERIFY(ok.box().text.contains(path("none/a.sdk") + ": No such file or directory"));
+    QVERIFY(ok.box().text.contains("SuDoKu-1.sdk"));
+  }
+
+  void a_missing_file_at_the_start_is_told_before_the_window_is_shown() {
+    ProgramGuard guard;
+    QtDesktop desktop(guard);
+    MainWindow window(desktop);
+    MainFrame frame(window, guard);
+    desktop.set_window(&frame);
+    BoxAnswer ok(QMessageBox::Ok);
+    guard.run([&] { window.start(path("missing.sdk").toStdString()); });
+    QCOMPARE(ok.box().text,
+             "SuDoKu doit s'arrêter (" + path("missing.sdk") + ": No such file or directory)");
+    QCOMPARE(guard.status(), std::optional(1));
+    QVERIFY(!frame.isVisible());
+  }
+
+  void help_and_version_alone_are_answered_without_a_display() {
+    QCOMPARE(output_of({"--version"}), "SuDoKu " PROGRAM_VERSION "\n");
+    QVERIFY(output_of({"--help"}).startsWith("usage: sudoku [PUZZLE.sdk]\n"));
+  }
+
+ private:
+  QString path(const QString& name) { return folder_.filePath(name); }
+
+  /// The program itself, which would not start for lack of a display.
+  QString output_of(const QStringList& arguments) {
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", ":no-such-display");
+    program.setProcessEnvironment(environment);
+    program.start(SUDOKU_PROGRAM, arguments);
+    if (!program.waitForFinished() || program.exitCode() != 0) return "it failed";
+    return QString::fromUtf8(program.readAllStandardOutput());
+  }
+
+  QTemporaryDir folder_;
+};
+
+}  // namespace sdk::test
+
+SUDOKU_WINDOW_TEST(sdk::test::OpeningTest)
+#include "opening_test.moc"

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/printing.hpp"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include "tests/ui/qt/play.hpp"
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/page_painter.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+constexpr PageSize a4{11906, 16838};
+constexpr double twips_per_pixel_here = 10;
+
+/// The page at a tenth of a pixel a twip.
+QImage painted(const Page& page, const DisplayGrid& puzzle) {
+  QImage image(1191, 1684, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.scale(1 / twips_per_pixel_here, 1 / twips_per_pixel_here);
+  paint_drawings(painter, page, puzzle);
+  return image;
+}
+
+QColor at(const QImage& image, double x_twips, double y_twips) {
+  return image.pixelColor(static_cast<int>(x_twips / twips_per_pixel_here),
+                          static_cast<int>(y_twips / twips_per_pixel_here));
+}
+
+bool has_ink(const QImage& image, const QRect& twips) {
+  for (int y = twips.top(); y < twips.bottom(); y += 10)
+    for (int x = twips.left(); x < twips.right(); x += 10)
+      if (at(image, x, y).lightness() < 100) return true;
+  return false;
+}
+
+}  // namespace
+
+class PrintingTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { play_.emplace(); }
+  void cleanup() { play_.reset(); }
+
+  void the_page_shows_title_puzzle_lines_and_credit() {
+    const QImage image = painted(page(), play_->window.MSF);
+    const double left = (a4.width - 10035) / 2, top = (a4.height - 10170) / 2;
+    QVERIFY(has_ink(image, QRect(left, top - 600, 3000, 400)));
+    QVERIFY(has_ink(image, QRect(left, top + 7020 + 100, 3000, 200)));
+    QVERIFY(!has_ink(image, QRect(left + 7100, top, 2000, 7000)));
+    for (int r = 0; r < 9; ++r)
+      for (int c = 0; c < 9; ++c) {
+        const DisplayCell& cell = play_->window.MSF.cell(r, c);
+        const QColor expected = to_qcolor(cell.back_colour);
+        QCOMPARE(at(image, left + c * 780 + 100, top + r * 780 + 100), expected);
+        QCOMPARE(has_ink(image, QRect(left + c * 780 + 200, top + r * 780 + 150, 400, 500)),
+                 cell.text != " ");
+      }
+    const auto is_black = [&](double x, double y) { return at(image, x, y).lightness() < 80; };
+    QVERIFY(is_black(left - 10 + 2340, top + 400));
+    QVERIFY(is_black(left + 400, top - 10 + 4680));
+    QVERIFY(is_black(left - 10, top + 400));
+    QVERIFY(is_black(left - 10 + 7020, top + 400));
+  }
+
+  void a_pdf_has_one_portrait_page() {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&file);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    QVERIFY(paint_page(writer, page(), play_->window.MSF));
+    QVERIFY(file.data().startsWith("%PDF"));
+    QCOMPARE(file.data().count("/Type /Page\n"), 1);
+    QVERIFY(writer.width() < writer.height());
+  }
+
+  void a_device_that_refuses_is_reported() {
+    QPdfWriter writer("/nonexistent/folder/page.pdf");
+    QVERIFY(!paint_page(writer, page(), play_->window.MSF));
+  }
+
+ private:
+  Page page() const {
+    return printed_page(a4, play_->window.layout(), globals.TitreFenetre, globals.Messages[15]);
+  }
+
+  std::optional<Play> play_;
+};
+
+}  // namespace sdk::test
+
+SUDOKU_WINDOW_TEST(sdk::test::PrintingTest)
+#include "printing_test.moc"
