@@ -14,8 +14,7 @@
 #include <numeric>
 #include <set>
 
-#include "puzzles/library.hpp"
-#include "tests/support/game.hpp"
+#include "puzzles/stock/library_table.hpp"
 #include "tests/support/solution_counter.hpp"
 
 namespace sdk::test {
@@ -38,8 +37,14 @@ Puzzle stored(int number) {
   return puzzle;
 }
 
+Random seeded(std::uint32_t seed) {
+  Random random;
+  random.reseed(seed);
+  return random;
+}
+
 Puzzle transformed(Puzzle puzzle, std::uint32_t seed) {
-  generator.reseed(seed);
+  Random generator = seeded(seed);
   Transformer_Grille(generator, puzzle.solution, puzzle.mask);
   return puzzle;
 }
@@ -97,8 +102,7 @@ struct Lines9 {
 };
 
 Puzzle plainly_transformed(const Puzzle& puzzle, std::uint32_t seed) {
-  Random random;
-  random.reseed(seed);
+  Random random = seeded(seed);
   const bool transposed = std::floor(random.draw() * 2) == 0;
   Lines9 rows, columns;
   List h = shuffled({1, 2, 3}, random), v = shuffled({1, 2, 3}, random);
@@ -252,7 +256,7 @@ TEST(Relabelling, GivesEveryDigitEveryNameEquallyOften) {
 TEST(Melanger, GivesEveryOrderEquallyOften) {
   constexpr int runs = 24000;
   std::map<List, int> times;
-  generator.reseed(2);
+  Random generator = seeded(2);
   for (int i = 0; i < runs; ++i) {
     List list{0, 1, 2, 3};
     Melanger(generator, list);
@@ -264,18 +268,18 @@ TEST(Melanger, GivesEveryOrderEquallyOften) {
 
 TEST(Melanger, DrawsOncePerElementAndKeepsThemAll) {
   List list{7, 5, 0, 5};
-  generator.reseed(9);
+  Random generator = seeded(9);
   Melanger(generator, list);
   std::ranges::sort(list);
   EXPECT_EQ(list, (List{0, 5, 5, 7}));
-  Random random;
-  random.reseed(9);
+  Random random = seeded(9);
   for (int i = 0; i < 4; ++i) random.draw();
   EXPECT_EQ(generator.draw(), random.draw());
 }
 
 TEST(Melanger, LeavesAnEmptyListAlone) {
   List list;
+  Random generator;
   Melanger(generator, list);
   EXPECT_TRUE(list.empty());
 }
