@@ -14,7 +14,7 @@
 #include <optional>
 #include <vector>
 
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
 
@@ -64,11 +64,10 @@ class Game {
 
  private:
   void show(const LibraryEntry& entry) {
-    for (int cell = 0; cell < 81; ++cell) {
-      const auto k = static_cast<std::size_t>(cell);
-      window_.MSF.set_text(cell / 9, cell % 9,
-                           std::string(1, entry.mask[k] == '1' ? entry.solution[k] : ' '));
-    }
+    std::string texts = puzzle_text(entry);
+    std::ranges::replace(texts, '.', ' ');
+    for (int cell = 0; cell < 81; ++cell)
+      window_.MSF.set_text(cell / 9, cell % 9, texts.substr(static_cast<std::size_t>(cell), 1));
     window_.MajCandidats();
     QApplication::processEvents();
   }

@@ -16,7 +16,7 @@
 
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "tests/pas_a_pas/puzzle_generator.hpp"
 #include "tests/support/solution_counter.hpp"
 #include "tools/walk/walk.hpp"
@@ -31,11 +31,7 @@ using test::PuzzleGenerator;
 
 std::vector<Puzzle> library() {
   std::vector<Puzzle> puzzles;
-  for (const LibraryEntry& entry : BibliothequeGrilles) {
-    Puzzle& puzzle = puzzles.emplace_back(entry.solution);
-    for (std::size_t k = 0; k < puzzle.size(); ++k)
-      if (entry.mask[k] == '0') puzzle[k] = '.';
-  }
+  for (const LibraryEntry& entry : BibliothequeGrilles) puzzles.push_back(puzzle_text(entry));
   return puzzles;
 }
 

@@ -20,7 +20,7 @@
 #include "bench/game.hpp"
 #include "files/external_solver.hpp"
 #include "files/platform.hpp"
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 
 namespace sdk::bench {
 namespace {
@@ -33,11 +33,8 @@ using Puzzles = std::vector<std::string>;  ///< 81 characters each, a blank for 
 
 Puzzles library() {
   Puzzles puzzles;
-  for (const LibraryEntry& entry : BibliothequeGrilles) {
-    std::string& puzzle = puzzles.emplace_back(entry.solution);
-    for (std::size_t k = 0; k < puzzle.size(); ++k)
-      if (entry.mask[k] == '0') puzzle[k] = ' ';
-  }
+  for (const LibraryEntry& entry : BibliothequeGrilles)
+    std::ranges::replace(puzzles.emplace_back(puzzle_text(entry)), '.', ' ');
   return puzzles;
 }
 

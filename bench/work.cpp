@@ -6,9 +6,12 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+
 #include "bench/game.hpp"
 #include "bench/plain_search.hpp"
 #include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 
 namespace sdk::bench {
 namespace {
@@ -17,18 +20,17 @@ Game* game = nullptr;
 
 Square<std::int16_t> puzzle_of(const LibraryEntry& entry) {
   Square<std::int16_t> puzzle;
-  for (int r = 1; r <= 9; ++r)
-    for (int c = 1; c <= 9; ++c) {
-      const auto i = static_cast<std::size_t>((r - 1) * 9 + c - 1);
-      puzzle(r, c) = entry.mask[i] == '1' ? static_cast<std::int16_t>(entry.solution[i] - '0') : 0;
-    }
+  const std::string text = puzzle_text(entry);
+  for (int k = 0; k < 81; ++k) {
+    const char c = text[static_cast<std::size_t>(k)];
+    puzzle(k / 9 + 1, k % 9 + 1) = c == '.' ? 0 : static_cast<std::int16_t>(c - '0');
+  }
   return puzzle;
 }
 
 void show(const LibraryEntry& entry, Window& window) {
-  window.ChaineGrille.clear();
-  for (std::size_t i = 0; i < 81; ++i)
-    window.ChaineGrille += entry.mask[i] == '1' ? entry.solution[i] : ' ';
+  window.ChaineGrille = puzzle_text(entry);
+  std::ranges::replace(window.ChaineGrille, '.', ' ');
   window.CreateGrille();
 }
 

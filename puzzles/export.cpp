@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "game/window.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "screen/errors.hpp"
 
 namespace sdk {
@@ -24,20 +25,22 @@ void append(const std::string& lines) {
   if (!file) throw RuntimeError(export_file, std::generic_category().message(errno));
 }
 
-}  // namespace
-
-void generate_sudoku() {
-  Window& w = sudoku();
-  std::string mask;
+void write_solution(Window& w) {
   w.ChaineSolution.clear();
   for (int i = 1; i <= 9; ++i)
     for (int j = 1; j <= 9; ++j) {
-      mask += w.GrilleInitiale(i, j) != 0 ? '1' : '0';
       w.MSF.make_current(i - 1, j - 1);
       w.MSF.set_text(std::to_string(w.Grille(i, j)));
       w.ChaineSolution += w.MSF.current().text;
     }
-  append(mask + "\r\n" + w.ChaineSolution + "\r\n\r\n");
+}
+
+}  // namespace
+
+void generate_sudoku() {
+  Window& w = sudoku();
+  write_solution(w);
+  append(entry_lines({mask_text(w.GrilleInitiale), w.ChaineSolution}));
 }
 
 }  // namespace sdk

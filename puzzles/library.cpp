@@ -15,7 +15,7 @@ namespace {
 
 constexpr int entries_per_level = 8;
 
-const LibraryEntry& pick() {
+const LibraryEntry& pick_entry() {
   if (globals.NiveauCourant < 0 || globals.NiveauCourant > 4)
     throw std::out_of_range("no puzzle of level " + std::to_string(globals.NiveauCourant));
   const int first = globals.NiveauCourant * entries_per_level;
@@ -27,7 +27,7 @@ const LibraryEntry& pick() {
 
 void Choisir_Grille(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
   generator.reseed(sudoku().desktop().random_seed());
-  const LibraryEntry& entry = pick();
+  const LibraryEntry& entry = pick_entry();
   sudoku().show_count(static_cast<int>(std::ranges::count(entry.mask, '1')));
   for (int i = 1; i <= 9; ++i)
     for (int j = 1; j <= 9; ++j) {

@@ -12,4 +12,15 @@ std::string puzzle_text(const LibraryEntry& entry) {
   return text;
 }
 
+std::string mask_text(const Square<std::int16_t>& givens) {
+  std::string mask;
+  for (int i = 1; i <= 9; ++i)
+    for (int j = 1; j <= 9; ++j) mask += givens(i, j) != 0 ? '1' : '0';
+  return mask;
+}
+
+std::string entry_lines(const LibraryEntry& entry) {
+  return std::string(entry.mask).append("\r\n").append(entry.solution).append("\r\n\r\n");
+}
+
 }  // namespace sdk

@@ -44,7 +44,7 @@ void Renumeroter(std::span<const int, 9> digits, Square<std::uint8_t>& resGrille
 
 namespace {
 
-std::array<int, 3> shuffled_trio(Random& generator) {
+std::array<int, 3> draw_trio(Random& generator) {
   std::array<int, 3> trio{1, 2, 3};
   Melanger(generator, trio);
   return trio;
@@ -58,13 +58,13 @@ void transpose(Square<std::uint8_t>& resGrille, Square<Bool16>& Masque) {
     }
 }
 
-/// Exchanges the three items after `base` in both directions. Exchanging k with its drawn partner
-/// only when k is smaller is meant: the third item never comes out first with the others in order,
-/// and the reversed trio comes out twice as often as each other arrangement.
+/// Exchanges the three items after `base` in both directions, each k with its drawn partner only
+/// when k is smaller. So the third item never comes out first with the others in order, and the
+/// reversed trio comes out twice as often as each other arrangement.
 template <class Exchange>
 void exchange_trios(Random& generator, int base, Exchange exchange) {
-  const auto horizontal = shuffled_trio(generator);
-  const auto vertical = shuffled_trio(generator);
+  const auto horizontal = draw_trio(generator);
+  const auto vertical = draw_trio(generator);
   for (int k = 1; k <= 3; ++k) {
     const auto index = static_cast<std::size_t>(k - 1);
     if (k < horizontal[index]) exchange("horizontal", base + k, base + horizontal[index]);

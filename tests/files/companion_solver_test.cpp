@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "tests/support/game.hpp"
 #include "tests/support/machine.hpp"
 
@@ -18,13 +18,6 @@ class CompanionSolver : public testing::Test {
  protected:
   CompanionSolver() { fs::copy_file(ZOLV_PROGRAM, desktop.program_folder() / "zolv.exe"); }
 
-  std::string givens_of(const LibraryEntry& entry) {
-    std::string grid(entry.solution);
-    for (std::size_t k = 0; k < 81; ++k)
-      if (entry.mask[k] == '0') grid[k] = '.';
-    return grid;
-  }
-
   KeptFolder kept;
   Game game;
   MainWindow& w = game.window;
@@ -35,7 +28,7 @@ class CompanionSolver : public testing::Test {
 TEST_F(CompanionSolver, SolvesTheFortyStoredPuzzles) {
   for (std::size_t k = 0; k < BibliothequeGrilles.size(); ++k) {
     const LibraryEntry& entry = BibliothequeGrilles[k];
-    game.draw(givens_of(entry));
+    game.draw(puzzle_text(entry));
     w.click(Control::Bouton_GO);
     EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)}) << k + 1;
     if (k + 1 == 33) continue;  // has several solutions

@@ -24,5 +24,34 @@ TEST(PuzzleText, OfEveryEntryHasItsDigitsWhereItsMaskHasOnes) {
   }
 }
 
+TEST(MaskText, HasAOneForEachGivenRowByRow) {
+  Square<std::int16_t> givens;
+  EXPECT_EQ(mask_text(givens), std::string(81, '0'));
+  givens(1, 2) = 9;
+  givens(2, 1) = 1;
+  givens(9, 9) = -1;
+  EXPECT_EQ(mask_text(givens), "010000000100000000" + std::string(62, '0') + "1");
+}
+
+TEST(MaskText, OfAStoredPuzzlesGivensIsItsMask) {
+  for (const LibraryEntry& entry : BibliothequeGrilles) {
+    Square<std::int16_t> givens;
+    const std::string text = puzzle_text(entry);
+    for (int k = 0; k < 81; ++k)
+      if (const char c = text[static_cast<std::size_t>(k)]; c != '.')
+        givens(k / 9 + 1, k % 9 + 1) = static_cast<std::int16_t>(c - '0');
+    EXPECT_EQ(mask_text(givens), entry.mask);
+  }
+}
+
+TEST(EntryLines, AreTheMaskTheSolutionAndAnEmptyLine) {
+  const std::string mask(81, '1'), solution(81, '0');
+  EXPECT_EQ(entry_lines({mask, solution}), mask + "\r\n" + solution + "\r\n\r\n");
+}
+
+TEST(EntryLines, HoldASolutionOfAnyLengthAsItIs) {
+  EXPECT_EQ(entry_lines({"10", "5"}), "10\r\n5\r\n\r\n");
+}
+
 }  // namespace
 }  // namespace sdk::test
