@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "board/grid_text.hpp"
 #include "pas_a_pas/order.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "puzzles/stock/entry_text.hpp"

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "board/grid_text.hpp"
 #include "files/platform.hpp"
 #include "files/puzzle_file.hpp"
 #include "game/window.hpp"

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "board/grid_text.hpp"
 #include "game/window.hpp"
 #include "screen/errors.hpp"
 

@@ -3,6 +3,7 @@
 
 // The depth-first search over the 81 cells in row-major order.
 
+#include "board/grid_text.hpp"
 #include "board/unit_counts.hpp"
 #include "game/window.hpp"
 
@@ -107,13 +108,6 @@ void prepare(Window& w) {
   w.refresh();
   w.trace_ligne();
   globals.ArretDemande = false;
-}
-
-std::string digits_of(const Square<std::int16_t>& grid) {
-  std::string digits;
-  for (int r = 1; r <= 9; ++r)
-    for (int c = 1; c <= 9; ++c) digits += std::to_string(grid(r, c));
-  return digits;
 }
 
 void end_stopped(Window& w) {

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "board/grid_text.hpp"
 #include "game/window.hpp"
 
 namespace sdk {

@@ -3,10 +3,7 @@
 
 #include "game/window.hpp"
 
-#include <algorithm>
 #include <cassert>
-#include <charconv>
-#include <utility>
 
 namespace sdk {
 
@@ -32,11 +29,6 @@ void Window::show_message(int index, Icon icon) {
                        globals.TitreFenetre);
 }
 
-std::string_view character(std::string_view text, int k) {
-  const auto position = static_cast<std::size_t>(k - 1);
-  return position < text.size() ? text.substr(position, 1) : std::string_view();
-}
-
 std::string from_code_page(std::string_view text) {
   std::string result;
   for (const char c : text) {
@@ -49,13 +41,6 @@ std::string from_code_page(std::string_view text) {
     }
   }
   return result;
-}
-
-std::int16_t numeric_prefix(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  std::int16_t value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
 }
 
 }  // namespace sdk

@@ -98,13 +98,7 @@ class Window {
 /// The one window. Calling it while none exists is a programming error.
 Window& sudoku();
 
-/// Character `k` (1-based) of `text` as a text of one byte, empty when the text is shorter.
-std::string_view character(std::string_view text, int k);
-
 /// A text of cells, in the single-byte code page (Latin-1), as UTF-8.
 std::string from_code_page(std::string_view text);
-
-/// The integer at the start of `text`, leading spaces skipped; 0 when there is none.
-std::int16_t numeric_prefix(std::string_view text);
 
 }  // namespace sdk

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "board/grid_text.hpp"
 #include "game/window.hpp"
 #include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/order.hpp"

@@ -3,6 +3,7 @@
 
 // The keys of the puzzle grid.
 
+#include "board/grid_text.hpp"
 #include "ui/main_window.hpp"
 
 namespace sdk {

@@ -72,22 +72,6 @@ TEST(CellNumbers, RunRowByRow) {
     }
 }
 
-TEST(NumericPrefix, IsTheIntegerAtTheStartOrZero) {
-  EXPECT_EQ(numeric_prefix("7"), 7);
-  EXPECT_EQ(numeric_prefix(" "), 0);
-  EXPECT_EQ(numeric_prefix(""), 0);
-  EXPECT_EQ(numeric_prefix("x"), 0);
-  EXPECT_EQ(numeric_prefix("\xE9"), 0);
-  EXPECT_EQ(numeric_prefix(" 4x"), 4);
-}
-
-TEST(Character, IsCountedFromOneAndEmptyPastTheEnd) {
-  EXPECT_EQ(character("abc", 1), "a");
-  EXPECT_EQ(character("abc", 3), "c");
-  EXPECT_EQ(character("abc", 4), "");
-  EXPECT_EQ(character("", 1), "");
-}
-
 TEST(DisplayGrid, StartsWithEmptyBlackOnWhiteCellsAndTheFirstCellCurrent) {
   const DisplayGrid grid;
   for (int r = 0; r < 9; ++r)

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "board/grid_text.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace {

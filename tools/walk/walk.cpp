@@ -27,19 +27,6 @@ std::filesystem::path YesDesktop::data_folder() {
 
 namespace {
 
-bool is_puzzle_character(char c) { return c == '.' || (c >= '0' && c <= '9'); }
-
-}  // namespace
-
-std::string puzzle_fault(std::string_view line) {
-  if (line.size() != 81) return "81 characters expected, " + std::to_string(line.size()) + " found";
-  const auto* const bad = std::ranges::find_if_not(line, is_puzzle_character);
-  if (bad == line.end()) return "";
-  return "character " + std::to_string(bad - line.begin() + 1) + " is neither a digit nor '.'";
-}
-
-namespace {
-
 std::string name_of(Cell cell) {
   return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column);
 }

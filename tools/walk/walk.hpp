@@ -31,10 +31,6 @@ class YesDesktop : public PlatformDesktop {
   std::filesystem::path data_folder() override;
 };
 
-/// Empty when the line is a puzzle: 81 characters, 1-9 a digit, '.' or '0' an empty cell. Else what
-/// is wrong with it.
-std::string puzzle_fault(std::string_view line);
-
 /// One window, on which any number of puzzles is played. A puzzle must pass puzzle_fault.
 class Walker {
  public:
