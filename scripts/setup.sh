@@ -13,9 +13,9 @@ packages_for() {
     play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev \
       qt6-translations-l10n ;;
     picture) echo xvfb netpbm ;;
-    test) echo libgtest-dev qt6-base-private-dev ;;
+    test) echo libgtest-dev qt6-base-private-dev universal-ctags ;;
     bench) echo libbenchmark-dev xvfb ;;
-    check) echo clang-format ;;
+    check) echo clang-format universal-ctags ;;
     package) echo dpkg-dev file lintian desktop-file-utils appstream shared-mime-info \
       libglib2.0-bin man-db groff xdotool xclip ;;
     fresh-root) echo debootstrap ;;
