@@ -3,16 +3,18 @@
 
 #include "files/external_solver.hpp"
 
-#include <algorithm>
 #include <cerrno>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <system_error>
+#include <variant>
 
-#include "board/grid_text.hpp"
+#include "board/cells.hpp"
 #include "files/platform.hpp"
 #include "files/puzzle_file.hpp"
+#include "files/text/exchange_text.hpp"
 #include "game/window.hpp"
 #include "screen/errors.hpp"
 
@@ -36,43 +38,53 @@ void delete_file(const fs::path& file) {
     throw RuntimeError(file.string(), error ? error.message() : "no such file");
 }
 
-std::string first_line(const fs::path& path) {
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  std::string line;
-  if (!std::getline(file, line))
-    throw RuntimeError(path.string(),
-                       errno ? std::generic_category().message(errno) : "the file is empty");
-  return line.substr(0, line.find('\r'));
+[[noreturn]] void fail(const fs::path& file, int error) {
+  throw RuntimeError(file.string(), std::generic_category().message(error));
 }
 
-void report_no_solution() {
+/// The file's bytes up to its first line feed, which is among them.
+std::string beginning(const fs::path& path) {
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes;
+  if (std::getline(file, bytes)) return file.eof() ? bytes : bytes + '\n';
+  if (errno) fail(path, errno);
+  return {};
+}
+
+std::string answer_line() {
+  const std::string output = beginning(output_file());
+  const std::optional<std::string_view> line = first_line(output);
+  if (!line) throw RuntimeError(output_file().string(), "the file is empty");
+  return std::string(*line);
+}
+
+void take_digits(std::string_view digits) {
+  Window& w = sudoku();
+  globals.GrilleOk = true;
+  ++w.grid_fills;
+  w.ChaineSolution = digits;
+  for (int k = 1; k <= static_cast<int>(digits.size()); ++k) {
+    const auto [row, column] = cell_at(k);
+    w.Grille(row, column) =
+        static_cast<std::int16_t>(digits[static_cast<std::size_t>(k - 1)] - '0');
+  }
+}
+
+void take(const Solution& solution) { take_digits(solution.digits); }
+
+void take(const MissingDigit& fault) {
+  take_digits(fault.digits_before);
+  throw RuntimeError(output_file().string(), "no digit for cell " + std::to_string(fault.cell()));
+}
+
+void take(const NoSolution&) {
   delete_file(output_file());
   delete_file(input_file());
   sudoku().desktop().set_pointer(Pointer::arrow);
   sudoku().trace_ligne();
   globals.GrilleOk = false;
   sudoku().show_message(13, Icon::critical);
-}
-
-/// The digit of a cell of the answer.
-char digit_at(std::string_view answer, int k) {
-  const std::string_view text = character(answer, k);
-  if (text.empty() || text[0] < '0' || text[0] > '9')
-    throw RuntimeError(output_file().string(), "no digit for cell " + std::to_string(k));
-  return text[0];
-}
-
-void take_solution(std::string_view answer) {
-  globals.GrilleOk = true;
-  ++sudoku().grid_fills;
-  sudoku().ChaineSolution.clear();
-  for (int i = 1; i <= 9; ++i)
-    for (int j = 1; j <= 9; ++j) {
-      const char digit = digit_at(answer, (i - 1) * 9 + j);
-      sudoku().Grille(i, j) = static_cast<std::int16_t>(digit - '0');
-      sudoku().ChaineSolution += digit;
-    }
 }
 
 void run_solver() {
@@ -116,21 +128,15 @@ void Bouton_GO_Click() {
 
 void sauve_sudo() {
   std::string& grid = sudoku().ChaineGrille;
-  grid = displayed_grid();
-  std::ranges::replace(grid, ' ', '0');
-  std::string text;
-  for (const char c : grid) text += {c, ' '};
+  grid = grid_to_solve(displayed_grid());
   errno = 0;
   std::ofstream file(input_file(), std::ios::binary);
-  file << text << std::flush;
-  if (!file) throw RuntimeError(input_file().string(), std::generic_category().message(errno));
+  file << solver_input(grid) << std::flush;
+  if (!file) fail(input_file(), errno);
 }
 
 void read_sudo() {
-  std::string line = first_line(output_file());
-  if (line.find('0') != std::string::npos) return report_no_solution();
-  std::erase(line, ' ');
-  take_solution(line);
+  std::visit([](const auto& answer) { take(answer); }, solver_answer(answer_line()));
 }
 
 Bool16 ProcessusActif(std::uint32_t id) {

@@ -34,7 +34,7 @@ std::uint32_t start_process(const std::string& command_line);
 
 /// The exit code of a process that start_process began; 259 while it runs. A process that has ended
 /// is reported once and is forgotten then; nothing for a process that is not known.
-std::optional<std::uint32_t> exit_code(std::uint32_t id);
+std::optional<std::uint32_t> collect_exit_code(std::uint32_t id);
 
 /// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
 void write_new_file(const std::filesystem::path& file, std::string_view bytes);

@@ -33,7 +33,7 @@ std::uint32_t PlatformDesktop::start_process(const std::string& command_line) {
 }
 
 std::optional<std::uint32_t> PlatformDesktop::exit_code(std::uint32_t id) {
-  return platform::exit_code(id);
+  return platform::collect_exit_code(id);
 }
 
 void PlatformDesktop::replace_file(const std::string& file, std::string_view bytes) {

@@ -69,7 +69,7 @@ std::uint32_t start_process(const std::string& command_line) {
   return static_cast<std::uint32_t>(id);
 }
 
-std::optional<std::uint32_t> exit_code(std::uint32_t id) {
+std::optional<std::uint32_t> collect_exit_code(std::uint32_t id) {
   constexpr std::uint32_t still_active = 259, killed_by_signal = 128;
   int status = 0;
   const pid_t ended = waitpid(static_cast<pid_t>(id), &status, WNOHANG);

@@ -3,12 +3,13 @@
 
 #include "files/puzzle_file.hpp"
 
-#include <algorithm>
 #include <cerrno>
 #include <fstream>
+#include <optional>
 #include <system_error>
+#include <utility>
 
-#include "board/grid_text.hpp"
+#include "files/text/puzzle_file_text.hpp"
 #include "game/window.hpp"
 #include "screen/errors.hpp"
 
@@ -22,18 +23,6 @@ std::string displayed_grid() {
 }
 
 namespace {
-
-/// Two characters a cell; a text that is too short fills the cells it lacks with blanks.
-std::string file_text(std::string_view grid) {
-  std::string text;
-  for (int k = 1; k <= 81; ++k) {
-    const std::string_view cell = character(grid, k);
-    text += ' ';
-    text += cell.empty() ? " " : cell == " " ? "." : cell;
-    if (k % 9 == 0) text += "\r\n";
-  }
-  return text;
-}
 
 /// More than any puzzle file holds; keeps an endless device from filling the memory.
 constexpr std::size_t largest_file = 16 << 20;
@@ -52,35 +41,29 @@ std::string content(const std::string& name) {
     if (bytes.size() > largest_file) fail(name, EFBIG);
   }
   if (file.bad()) fail(name, errno);
-  if (bytes.empty()) throw RuntimeError(name, "the file is empty");
   return bytes;
 }
 
-/// The cells of a file's lines, whatever ends them.
-std::string cells(std::string bytes) {
-  std::erase_if(bytes, [](char c) { return c == ' ' || c == '\r' || c == '\n'; });
-  std::ranges::replace(bytes, '.', ' ');
-  return bytes;
+std::string grid_in(const std::string& name) {
+  std::optional<std::string> grid = grid_of_file(content(name));
+  if (!grid) throw RuntimeError(name, "the file is empty");
+  return *std::move(grid);
 }
 
 }  // namespace
 
 void Save_Grille(const std::string& nom) {
   std::string& grid = sudoku().ChaineGrille;
-  grid = displayed_grid();
-  std::ranges::replace(grid, '0', ' ');
-  sudoku().desktop().replace_file(nom, file_text(grid));
+  grid = grid_to_save(displayed_grid());
+  sudoku().desktop().replace_file(nom, puzzle_file_text(grid));
 }
 
 void ouvrir(const std::string& nom) {
   std::string name = nom;
   std::erase(name, '"');
   sudoku().set_title(name);
-  std::string& grid = sudoku().ChaineGrille;
-  grid = cells(content(name));
-  const auto shown = std::string_view(grid).substr(0, 81);
-  sudoku().show_count(
-      static_cast<int>(std::ranges::count_if(shown, [](char c) { return c != ' '; })));
+  sudoku().ChaineGrille = grid_in(name);
+  sudoku().show_count(givens_of(sudoku().ChaineGrille));
   sudoku().refresh();
 }
 

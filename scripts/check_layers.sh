@@ -16,12 +16,13 @@ game: game screen board
 puzzles: puzzles puzzles/stock game screen board
 puzzles/stock: puzzles/stock board
 pas_a_pas: pas_a_pas logic game screen board
-files: files game screen board
+files: files files/text game screen board
+files/text: files/text board
 explanations: explanations logic board
-ui: ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
-ui/qt: ui/qt ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
-tools: tools ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
-tools/guide: tools/guide ui/qt ui puzzles puzzles/stock pas_a_pas files game screen explanations logic board
+ui: ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
+ui/qt: ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
+tools: tools ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
+tools/guide: tools/guide ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
 tools/zolv: tools/zolv
 '
 

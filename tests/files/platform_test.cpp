@@ -71,17 +71,17 @@ TEST_F(Process, IsActiveUntilItEnds) {
 TEST_F(Process, ThatHasEndedIsReportedOnceAndForgotten) {
   const std::uint32_t id = platform::start_process("exit 3");
   std::optional<std::uint32_t> code;
-  while ((code = platform::exit_code(id)) == 259) {
+  while ((code = platform::collect_exit_code(id)) == 259) {
   }
   EXPECT_EQ(code, 3u);
-  EXPECT_EQ(platform::exit_code(id), std::nullopt);
+  EXPECT_EQ(platform::collect_exit_code(id), std::nullopt);
   EXPECT_FALSE(has_children());
 }
 
 TEST_F(Process, EndedByASignalHasEnded) {
   const std::uint32_t id = platform::start_process("kill -TERM $$");
   std::optional<std::uint32_t> code;
-  while ((code = platform::exit_code(id)) == 259) {
+  while ((code = platform::collect_exit_code(id)) == 259) {
   }
   EXPECT_EQ(code, 128u + SIGTERM);
 }
@@ -111,7 +111,7 @@ TEST_F(Process, HasNothingToRead) {
   const WaitingInput input;
   const std::uint32_t id = platform::start_process("read line && exit 1; exit 0");
   std::optional<std::uint32_t> code;
-  while ((code = platform::exit_code(id)) == 259) {
+  while ((code = platform::collect_exit_code(id)) == 259) {
   }
   EXPECT_EQ(code, 0u);
 }

@@ -3,6 +3,9 @@
 
 // Any bytes as the external solver's answer.
 
+#include <cstdlib>
+
+#include "files/text/exchange_text.hpp"
 #include "tests/fuzz/fuzz.hpp"
 
 using namespace sdk;
@@ -31,11 +34,32 @@ class AnsweringDesktop : public FakeDesktop {
   }
 };
 
+bool is_sound(const Solution& solution) {
+  return solution.digits.size() == 81 &&
+         solution.digits.find_first_not_of("123456789") == std::string::npos;
+}
+
+bool is_sound(const NoSolution&) { return true; }
+
+bool is_sound(const MissingDigit& fault) {
+  return fault.cell() <= 81 &&
+         fault.digits_before.find_first_not_of("123456789") == std::string::npos;
+}
+
+void require_sound_answer(std::string_view output) {
+  const std::optional<std::string_view> line = first_line(output);
+  if (line.has_value() == output.empty()) std::abort();
+  if (!line) return;
+  const SolverAnswer answer = solver_answer(std::string(*line));
+  if (!std::visit([](const auto& found) { return is_sound(found); }, answer)) std::abort();
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static AnsweringDesktop desktop;
   desktop.answer = {reinterpret_cast<const char*>(data), size};
+  require_sound_answer(desktop.answer);
   MainWindow window(desktop);
   const auto start_and_solve = [&] {
     window.start(desktop.puzzle_file());

@@ -3,15 +3,33 @@
 
 // Any bytes as a puzzle file: named on the command line, and chosen in the open dialog.
 
+#include <cstdlib>
+
+#include "files/text/puzzle_file_text.hpp"
 #include "tests/fuzz/fuzz.hpp"
 
 using namespace sdk;
 using namespace sdk::test;
 
+namespace {
+
+/// What was read from a file, and saved, is saved alike ever after.
+void require_stable_text(const std::string& bytes) {
+  const std::optional<std::string> grid = grid_of_file(bytes);
+  if (grid.has_value() == bytes.empty()) std::abort();
+  if (!grid) return;
+  const std::string text = puzzle_file_text(grid_to_save(*grid));
+  if (text.size() != 180 || puzzle_file_text(*grid_of_file(text)) != text) std::abort();
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static FakeDesktop desktop;
   static const std::string file = desktop.temporary_folder() + "/a.sdk";
-  write_bytes(file, {reinterpret_cast<const char*>(data), size});
+  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  require_stable_text(bytes);
+  write_bytes(file, bytes);
   MainWindow window(desktop);
   const auto start = [&] {
     window.start(file);

@@ -8,7 +8,7 @@ set -euo pipefail
 check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
-mkdir -p "$tree"/{board,logic/techniques,screen,game,puzzles/stock,pas_a_pas,files,explanations,ui/qt} \
+mkdir -p "$tree"/{board,logic/techniques,screen,game,puzzles/stock,pas_a_pas,files/text,explanations,ui/qt} \
   "$tree"/tools/{script,guide,zolv}
 touch "$tree"/tools/zolv/beside.hpp
 failures=0
@@ -34,11 +34,18 @@ accepted game/a.cpp '#include "screen/desktop.hpp"'
 accepted puzzles/a.hpp '#include "board/square.hpp"'
 accepted puzzles/a.cpp '#include "puzzles/stock/library_table.hpp"'
 accepted pas_a_pas/a.cpp '#include "logic/run.hpp"'
+accepted files/text/a.cpp '#include "files/text/exchange_text.hpp"'
+accepted files/text/a.cpp '#include "board/cells.hpp"'
+accepted files/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted explanations/a.cpp '#include "logic/deduction.hpp"'
 accepted ui/a.cpp '#include "files/puzzle_file.hpp"'
+accepted ui/a.cpp '#include "files/text/puzzle_file_text.hpp"'
+accepted ui/qt/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted ui/qt/a.cpp '#include <QWidget>'
 accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
 accepted tools/script/a.cpp '#include "ui/main_window.hpp"'
+accepted tools/script/a.cpp '#include "files/text/puzzle_file_text.hpp"'
+accepted tools/guide/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted tools/guide/a.cpp '#include <QImage>'
 accepted tools/guide/a.cpp '#include "ui/qt/main_frame.hpp"'
 accepted tools/zolv/a.cpp '#include "beside.hpp"'
@@ -57,6 +64,12 @@ refused puzzles/stock/a.cpp '#include "game/globals.hpp"'
 refused pas_a_pas/a.cpp '#include "ui/layout.hpp"'
 refused pas_a_pas/a.cpp '#include "explanations/explanations.hpp"'
 refused files/a.cpp '#include "pas_a_pas/driver.hpp"'
+refused files/text/a.cpp '#include "game/window.hpp"'
+refused files/text/a.cpp '#include "screen/errors.hpp"'
+refused files/text/a.cpp '#include "files/platform.hpp"'
+refused files/text/a.cpp '#include "puzzles/stock/entry_text.hpp"'
+refused game/a.cpp '#include "files/text/puzzle_file_text.hpp"'
+refused puzzles/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 refused explanations/a.cpp '#include "game/globals.hpp"'
 refused ui/a.cpp '#include "ui/qt/board.hpp"'
 refused ui/a.cpp '#include "tests/support.hpp"'
