@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -89,8 +90,8 @@ class Window {
   virtual void set_title(std::string title) = 0;
 
  private:
-  /// Makes (row, column) the cell under test and tells whether its value breaks a rule.
-  bool clashes(int row, int column);
+  /// Puts every filled cell of `Grille` under test, row by row, and acts for each that clashes.
+  void for_each_clash(const std::function<void()>& act);
 
   Desktop& desktop_;
 };

@@ -21,6 +21,8 @@ struct DisplayCell {
   int font_size = 0;  ///< in points; 0 is the grid's own size
   int mark = 0;       ///< the last mark mode given to the cell, 0..6
 
+  bool operator==(const DisplayCell&) const = default;
+
   /// A coloured background is all that tells a given of the puzzle from a player's cell.
   bool is_given() const { return back_colour != colour::white; }
   /// Red is all that tells a wrong value; in an empty cell it does not show.
