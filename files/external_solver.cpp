@@ -52,7 +52,7 @@ void report_no_solution() {
   sudoku().desktop().set_pointer(Pointer::arrow);
   sudoku().trace_ligne();
   globals.GrilleOk = false;
-  sudoku().show_message(13, Icon::critical);
+  sudoku().show_message(Message::impossible, Icon::critical);
 }
 
 /// The digit of a cell of the answer.

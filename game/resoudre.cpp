@@ -59,7 +59,7 @@ void prepare(Window& w) {
 }
 
 void end_stopped(Window& w) {
-  w.show_message(23, Icon::critical);
+  w.show_message(Message::search_stopped, Icon::critical);
   set_focus_marks(w.MSF, true);
   w.desktop().set_pointer(Pointer::arrow);
 }
@@ -77,7 +77,7 @@ void end_solved(Window& w) {
 }
 
 void end_impossible(Window& w) {
-  w.show_message(13, Icon::critical);
+  w.show_message(Message::impossible, Icon::critical);
   set_focus_marks(w.MSF, true);
   w.active();
 }

@@ -89,7 +89,7 @@ void Window::maj_indices() {
   show_count(filled);
   if (filled < 81) return;
   verify_valide();
-  show_message(GrilleValide ? 14 : 13, Icon::exclamation);
+  show_message(GrilleValide ? Message::completed : Message::impossible, Icon::exclamation);
   MSF.refresh();
   trace_ligne();
 }

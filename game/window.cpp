@@ -24,9 +24,8 @@ void Window::show_count(int filled) {
   set_caption(Control::Label, " " + std::to_string(filled) + " indices");
 }
 
-void Window::show_message(int index, Icon icon) {
-  desktop_.message_box(globals.Messages[static_cast<std::size_t>(index)], icon, Buttons::ok,
-                       globals.TitreFenetre);
+void Window::show_message(Message message, Icon icon) {
+  desktop_.message_box(text_of(message), icon, Buttons::ok, globals.TitreFenetre);
 }
 
 std::string from_code_page(std::string_view text) {

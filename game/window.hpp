@@ -13,6 +13,7 @@
 #include "board/bool16.hpp"
 #include "board/square.hpp"
 #include "game/globals.hpp"
+#include "game/message.hpp"
 #include "screen/controls.hpp"
 #include "screen/desktop.hpp"
 #include "screen/display_grid.hpp"
@@ -70,8 +71,8 @@ class Window {
 
   /// Shows " <n> indices" in `Label`.
   void show_count(int filled);
-  /// A box with `Messages`[index], an OK button and the program's title.
-  void show_message(int index, Icon icon);
+  /// A box with the message, an OK button and the program's title.
+  void show_message(Message message, Icon icon);
   Desktop& desktop() { return desktop_; }
 
   /// Shows the buttons that need a puzzle.

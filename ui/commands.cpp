@@ -126,8 +126,9 @@ void MainWindow::quit() {
 bool MainWindow::close(CloseMode mode) { return mode == CloseMode::session_end || confirm_quit(); }
 
 bool MainWindow::confirm_quit() {
-  return desktop().message_box(globals.Messages[12] + globals.TitreFenetre + "? ", Icon::question,
-                               Buttons::yes_no, globals.TitreFenetre) == Answer::yes;
+  return desktop().message_box(text_of(Message::really_quit) + globals.TitreFenetre + "? ",
+                               Icon::question, Buttons::yes_no,
+                               globals.TitreFenetre) == Answer::yes;
 }
 
 void MainWindow::save() {

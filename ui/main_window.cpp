@@ -20,7 +20,7 @@ void MainWindow::start(const std::string& command_line) {
     inactive();
     set_visible(Control::Command1, true);
     set_visible(Control::Command6, true);
-    set_caption(Control::Label3, globals.TitreFenetre + globals.Messages[15]);
+    set_caption(Control::Label3, globals.TitreFenetre + text_of(Message::credit));
     controls_[index(Control::Check3)].checked = true;
     prepare_grid(MSF);
     prepare_grid(MSR);
@@ -56,9 +56,7 @@ bool MainWindow::visible(Control id) const {
   return control(id).visible;
 }
 
-const std::string& MainWindow::level_text() const {
-  return globals.Messages.at(static_cast<std::size_t>(16 + globals.NiveauCourant));
-}
+const std::string& MainWindow::level_text() const { return level_name(globals.NiveauCourant); }
 
 void MainWindow::active() {
   for (const Control id : {Control::Command2, Control::sauve, Control::Bouton_GO, Control::Command4,

@@ -63,7 +63,7 @@ void MainWindow::redraw_lines() { trace_ligne(); }
 
 void MainWindow::print() {
   const PageSize paper = desktop().printer_page();
-  desktop().print(printed_page(paper, layout_, globals.TitreFenetre, globals.Messages[15]));
+  desktop().print(printed_page(paper, layout_, globals.TitreFenetre, text_of(Message::credit)));
   refresh();
   trace_ligne();
 }

@@ -8,7 +8,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "game/globals.hpp"
+#include "game/message.hpp"
 #include "ui/qt/about_label.hpp"
 #include "ui/qt/accessibility.hpp"
 
@@ -28,7 +28,7 @@ QVBoxLayout* make_rows() {
 
 AboutDialog::AboutDialog(const About& about, QWidget* parent) : QDialog(parent), about_(about) {
   setObjectName("about");
-  setWindowTitle(QString::fromStdString(globals.Messages[6]));
+  setWindowTitle(QString::fromStdString(text_of(Message::about)));
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(20, 20, 28, 16);
   columns->setSpacing(28);

@@ -17,8 +17,6 @@ namespace sdk {
 
 namespace {
 
-constexpr std::size_t hint_message = 21;
-
 QStringList names_of(const std::vector<LevelItem>& levels) {
   QStringList names;
   for (const LevelItem& level : levels) names << QString::fromStdString(level.name);
@@ -116,7 +114,7 @@ void OptionBar::show_state(const MainWindow& window) {
   show_levels(window);
   count_->setText(QString::fromStdString(window.control(Control::Label).caption));
   count_->setVisible(window.visible(Control::Label));
-  hint_->setText(QString::fromStdString(globals.Messages[hint_message]));
+  hint_->setText(QString::fromStdString(text_of(Message::language_hint)));
 }
 
 void OptionBar::show_box(const MainWindow& window, const Box& box) {
