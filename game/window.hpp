@@ -71,6 +71,8 @@ class Window {
 
   /// Shows " <n> indices" in `Label`.
   void show_count(int filled);
+  /// A box with the program's title; what Desktop::message_box returns.
+  Answer show_box(const std::string& text, Icon icon, Buttons buttons);
   /// A box with the message, an OK button and the program's title.
   void show_message(Message message, Icon icon);
   Desktop& desktop() { return desktop_; }

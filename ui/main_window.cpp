@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "files/puzzle_file.hpp"
+#include "pas_a_pas/tables.hpp"
 #include "ui/version.hpp"
 
 namespace sdk {
@@ -13,8 +14,9 @@ namespace sdk {
 MainWindow::MainWindow(Desktop& desktop) : Window(desktop) {}
 
 void MainWindow::start(const std::string& command_line) {
-  guarded([&] {
+  run_guarded([&] {
     globals = {};
+    solver = {};
     globals.TitreFenetre = std::string("SuDoKu ") + program_version;
     langage(globals.Langue);
     inactive();
@@ -42,7 +44,7 @@ void MainWindow::open_at_start(const std::string& command_line) {
 }
 
 void MainWindow::finish_start() {
-  if (opened_at_start_) guarded([this] { solve_opened(); });
+  if (opened_at_start_) run_guarded([this] { solve_opened(); });
 }
 
 void MainWindow::prepare_grid(DisplayGrid& grid) {

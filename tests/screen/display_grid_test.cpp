@@ -158,6 +158,16 @@ TEST(DisplayGrid, IsShownAgainWhenTheWorkFails) {
   EXPECT_TRUE(grid.visible());
 }
 
+TEST(DisplayGrid, GivesItsCellsRowByRowAsTheyAre) {
+  DisplayGrid grid;
+  grid.set_text(2, 3, "6");
+  const std::vector<DisplayCell> cells = grid.cells();
+  grid.set_text(2, 3, "7");
+  ASSERT_EQ(cells.size(), 81u);
+  EXPECT_EQ(cells[2 * 9 + 3].text, "6");
+  EXPECT_EQ(cells[0], DisplayCell{});
+}
+
 TEST(DisplayGrid, KeepsEveryCellWhileItIsHidden) {
   DisplayGrid grid;
   grid.set_text(4, 4, "7");

@@ -8,7 +8,6 @@
 #include <iterator>
 #include <ostream>
 
-#include "tools/script/control_names.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/text_format.hpp"
 
@@ -93,7 +92,7 @@ std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
 template <DisplayGrid Window::*grid>
 TopicText colours_of(Arguments& arguments) {
   const auto which =
-      arguments.choice("text", "back") ? &DisplayCell::text_colour : &DisplayCell::back_colour;
+      arguments.take_choice("text", "back") ? &DisplayCell::text_colour : &DisplayCell::back_colour;
   return [which](Script& script) { return colours(script.window().*grid, which); };
 }
 
@@ -102,8 +101,8 @@ TopicText grid_topic(Arguments& arguments) {
   if (arguments.empty())
     return [](Script& script) { return first_characters(script.window().*grid); };
   if (arguments.next() == "text" || arguments.next() == "back") return colours_of<grid>(arguments);
-  const int row = arguments.grid_line("R");
-  const int column = arguments.grid_line("C");
+  const int row = arguments.take_grid_line("R");
+  const int column = arguments.take_grid_line("C");
   return [=](Script& s) { return cell_text((s.window().*grid).cell(row, column)); };
 }
 
@@ -137,11 +136,9 @@ std::string selection(Script& script) {
 
 std::string visible(Script& script) {
   std::string names;
-  for (int i = 0; i < control_count; ++i) {
-    const auto control = static_cast<Control>(i);
-    if (script.window().visible(control))
-      names += (names.empty() ? "" : " ") + std::string(control_name(control));
-  }
+  for (const ControlRow& row : all_controls)
+    if (script.window().visible(row.control))
+      names += (names.empty() ? "" : " ") + std::string(row.name);
   return names;
 }
 
@@ -152,12 +149,12 @@ std::string caption_of(Script& script) {
 
 template <std::string ControlState::*text>
 TopicText control_topic(Arguments& arguments) {
-  const Control control = arguments.control();
+  const Control control = arguments.take_control();
   return [control](Script& s) { return in_quotes(s.window().control(control).*text) + '\n'; };
 }
 
 TopicText message(Arguments& arguments) {
-  const auto i = static_cast<std::size_t>(arguments.number("I", 0, 34));
+  const auto i = static_cast<std::size_t>(arguments.take_number("I", 0, 34));
   return [i](Script&) { return in_quotes(globals.Messages[i]) + '\n'; };
 }
 
@@ -194,10 +191,10 @@ TopicText box_lines_topic(Arguments&) {
 std::string title(Script& script) { return in_quotes(script.window().title()); }
 std::string clipboard(Script& script) { return in_quotes(script.desktop().clipboard()); }
 std::string pointer(Script& script) { return pointer_name(script.desktop().pointer()); }
-std::string focus(Script& script) { return std::string(control_name(script.window().focus())); }
+std::string focus(Script& script) { return std::string(name_of(script.window().focus())); }
 
 TopicText file(Arguments& arguments) {
-  const std::string path = arguments.rest("PATH");
+  const std::string path = arguments.take_rest("PATH");
   return [path](Script&) {
     std::ifstream stream(path, std::ios::binary);
     if (!stream || !std::filesystem::is_regular_file(path))
@@ -262,7 +259,7 @@ constexpr Topic table[] = {
 std::span<const Topic> topics() { return table; }
 
 Action show(Script& script, Arguments& arguments) {
-  const std::string name = arguments.word("WHAT");
+  const std::string name = arguments.take_word("WHAT");
   const auto* topic = std::ranges::find(table, name, &Topic::name);
   if (topic == std::end(table)) throw ScriptError("nothing of that name to show: " + name);
   const TopicText text = topic->understand(arguments);
