@@ -56,7 +56,7 @@ void Window::CreateGrille() {
       for (int j = 1; j <= 9; ++j) {
         MSF.make_current(i - 1, j - 1);
         MSF.set_text_colour(colour::black);
-        MSF.set_text(std::string(character(ChaineGrille, (i - 1) * 9 + j)));
+        MSF.set_text(std::string(character(ChaineGrille, Cell{i, j}.number())));
         MSF.set_back_colour(MSF.current().text == " " ? colour::white : globals.CouleurDonnees);
       }
   }
@@ -109,7 +109,7 @@ void Window::essai() {
     for (int i = 1; i <= 9; ++i)
       for (int j = 1; j <= 9; ++j) {
         MSF.make_current(i - 1, j - 1);
-        MSF.set_text_colour(verdict(MSF.current(), character(ChaineSolution, (i - 1) * 9 + j)));
+        MSF.set_text_colour(verdict(MSF.current(), character(ChaineSolution, Cell{i, j}.number())));
       }
   }
   MSF.refresh();

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <ostream>
 
+#include "tools/script/grid_format.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/text_format.hpp"
 
@@ -22,17 +23,6 @@ std::string value_text(std::uint8_t number) { return std::to_string(number); }
 std::string value_text(Bool16 flag) { return std::to_string(flag.bits()); }
 std::string value_text(Colour colour) { return colour_text(colour); }
 std::string value_text(const std::string& text) { return in_quotes(text); }
-
-/// Nine lines, cells separated by `separator`; `cell` gives the text of (row, column), 0-based.
-template <class CellText>
-std::string square_text(const char* separator, CellText cell) {
-  std::string text;
-  for (int r = 0; r < DisplayGrid::size; ++r) {
-    for (int c = 0; c < DisplayGrid::size; ++c) text += (c ? separator : "") + cell(r, c);
-    text += '\n';
-  }
-  return text;
-}
 
 template <class T>
 std::string value_text(const Square<T>& square) {
@@ -66,29 +56,6 @@ TopicText plain(Arguments&) {
 
 // The grids.
 
-std::string cell_name(int row, int column) {
-  return 'r' + std::to_string(row + 1) + 'c' + std::to_string(column + 1);
-}
-
-std::string first_character(const std::string& text) {
-  if (text == " ") return ".";
-  return text.empty() ? "?" : from_code_page(text.substr(0, 1));
-}
-
-std::string cell_text(const DisplayCell& cell) {
-  return in_quotes(from_code_page(cell.text)) + ' ' + colour_text(cell.text_colour) + ' ' +
-         colour_text(cell.back_colour) + ' ' + std::to_string(cell.font_size) + ' ' +
-         std::to_string(cell.mark) + '\n';
-}
-
-std::string first_characters(const DisplayGrid& grid) {
-  return square_text("", [&](int r, int c) { return first_character(grid.text(r, c)); });
-}
-
-std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
-  return square_text(" ", [&](int r, int c) { return colour_text(grid.cell(r, c).*which); });
-}
-
 template <DisplayGrid Window::*grid>
 TopicText colours_of(Arguments& arguments) {
   const auto which =
@@ -104,14 +71,6 @@ TopicText grid_topic(Arguments& arguments) {
   const int row = arguments.take_grid_line("R");
   const int column = arguments.take_grid_line("C");
   return [=](Script& s) { return cell_text((s.window().*grid).cell(row, column)); };
-}
-
-std::string marked_cells(const DisplayGrid& grid, int mark) {
-  std::string cells;
-  for (int r = 0; r < DisplayGrid::size; ++r)
-    for (int c = 0; c < DisplayGrid::size; ++c)
-      if (grid.cell(r, c).mark == mark) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
-  return std::to_string(mark) + '=' + cells;
 }
 
 std::string marks(Script& script) {
