@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 
+#include "board/cells.hpp"
 #include "board/square.hpp"
 
 namespace sdk {
@@ -31,18 +32,17 @@ class UnitCounts {
   /// Whether `digit`, which stands at (row, column), stands nowhere else in the cell's units.
   bool only_here(int row, int column, int digit) const {
     return rows_[at(row, digit)] == 1 && columns_[at(column, digit)] == 1 &&
-           boxes_[at(box(row, column), digit)] == 1;
+           boxes_[at(no_boite(row, column), digit)] == 1;
   }
 
  private:
   static std::size_t at(int unit, int digit) { return static_cast<std::size_t>(unit * 10 + digit); }
-  static int box(int row, int column) { return (row - 1) / 3 * 3 + (column - 1) / 3 + 1; }
 
   void add(int row, int column, int digit, int step) {
     if (digit < 1 || digit > 9) return;
     rows_[at(row, digit)] += step;
     columns_[at(column, digit)] += step;
-    boxes_[at(box(row, column), digit)] += step;
+    boxes_[at(no_boite(row, column), digit)] += step;
   }
 
   std::array<std::int8_t, 100> rows_{}, columns_{}, boxes_{};

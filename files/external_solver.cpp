@@ -84,7 +84,7 @@ void take(const NoSolution&) {
   sudoku().desktop().set_pointer(Pointer::arrow);
   sudoku().trace_ligne();
   globals.GrilleOk = false;
-  sudoku().show_message(13, Icon::critical);
+  sudoku().show_message(Message::impossible, Icon::critical);
 }
 
 void run_solver() {

@@ -1,96 +1,44 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-// The depth-first search over the 81 cells in row-major order.
+// The search for the solution, run by the window.
+
+#include <utility>
 
 #include "board/grid_text.hpp"
-#include "board/unit_counts.hpp"
+#include "board/search.hpp"
 #include "game/window.hpp"
 
 namespace sdk {
 
 namespace {
 
-/// One search over the window's fields. Events may run between two steps, and a search or a read
-/// started by one of them works on the same fields; this search then goes on from what it finds.
-class Search {
+/// Counts a search as running for as long as it lives.
+class CountedSearch {
  public:
-  explicit Search(Window& window) : w_(window) { ++w_.searches_running; }
-  ~Search() { --w_.searches_running; }
-  Search(const Search&) = delete;
-  Search& operator=(const Search&) = delete;
-
-  void run() {
-    recount();
-    do {
-      w_.desktop().let_events_run();
-      if (ended_elsewhere()) return;
-      if (fills_ != w_.grid_fills) recount();
-      step();
-    } while (w_.NumCase != 82 && w_.NumCase >= 1 && !globals.ArretDemande);
-  }
+  explicit CountedSearch(int& running) : running_(running) { ++running_; }
+  ~CountedSearch() { --running_; }
+  CountedSearch(const CountedSearch&) = delete;
+  CountedSearch& operator=(const CountedSearch&) = delete;
 
  private:
-  enum class Direction { forward, backward };
-
-  /// A nested search may have left the cell under test outside the grid.
-  bool ended_elsewhere() const { return w_.Ligne >= 10 || w_.Ligne < 1 || w_.Colonne < 1; }
-
-  void recount() {
-    fills_ = w_.grid_fills;
-    counts_.count(w_.Grille);
-  }
-
-  void go_to(int cell) {
-    w_.NumCase = cell;
-    w_.Extraire_Ligne_Colonne();
-  }
-
-  void put(int value) {
-    std::int16_t& cell = w_.Grille(w_.Ligne, w_.Colonne);
-    counts_.replace(w_.Ligne, w_.Colonne, cell, value);
-    cell = value;
-  }
-
-  void step() {
-    if (w_.Grille(w_.Ligne, w_.Colonne) == 0) put(1);
-    if (w_.GrilleInitiale(w_.Ligne, w_.Colonne) != 0)
-      go_to(w_.NumCase + (direction_ == Direction::forward ? 1 : -1));
-    else if (direction_ == Direction::forward)
-      step_forward(w_.Grille(w_.Ligne, w_.Colonne));
-    else
-      step_backward(w_.Grille(w_.Ligne, w_.Colonne));
-  }
-
-  void step_forward(int value) {
-    if (counts_.only_here(w_.Ligne, w_.Colonne, value))
-      go_to(w_.NumCase + 1);
-    else if (value < 9)
-      put(value + 1);
-    else
-      retreat();
-  }
-
-  void step_backward(int value) {
-    if (value < 9) {
-      direction_ = Direction::forward;
-      put(value + 1);
-    } else {
-      retreat();
-    }
-  }
-
-  void retreat() {
-    direction_ = Direction::backward;
-    put(0);
-    go_to(w_.NumCase - 1);
-  }
-
-  Window& w_;
-  UnitCounts counts_;
-  Direction direction_ = Direction::forward;
-  unsigned fills_ = 0;
+  int& running_;
 };
+
+/// Events may run between two steps, and a search or a read started by one of them works on the
+/// same fields; it may leave the cell under test outside the grid.
+void run_search(Window& w) {
+  const CountedSearch counted(w.searches_running);
+  const SearchCursor cursor{w.NumCase, w.Ligne, w.Colonne};
+  Search search(w.Grille, w.GrilleInitiale, cursor);
+  unsigned fills = w.grid_fills;
+  do {
+    w.desktop().let_events_run();
+    if (cursor.is_off_the_grid()) return;
+    if (std::exchange(fills, w.grid_fills) != w.grid_fills) search.recount();
+    search.step();
+  } while (!cursor.is_over() && !globals.ArretDemande);
+}
 
 void set_focus_marks(DisplayGrid& grid, bool on) {
   grid.set_tab_stop(on);
@@ -111,7 +59,7 @@ void prepare(Window& w) {
 }
 
 void end_stopped(Window& w) {
-  w.show_message(23, Icon::critical);
+  w.show_message(Message::search_stopped, Icon::critical);
   set_focus_marks(w.MSF, true);
   w.desktop().set_pointer(Pointer::arrow);
 }
@@ -129,7 +77,7 @@ void end_solved(Window& w) {
 }
 
 void end_impossible(Window& w) {
-  w.show_message(13, Icon::critical);
+  w.show_message(Message::impossible, Icon::critical);
   set_focus_marks(w.MSF, true);
   w.active();
 }
@@ -138,7 +86,7 @@ void end_impossible(Window& w) {
 
 void Window::Resoudre() {
   prepare(*this);
-  Search(*this).run();
+  run_search(*this);
   if (globals.ArretDemande) return end_stopped(*this);
   active();
   desktop_.set_pointer(Pointer::arrow);

@@ -5,57 +5,33 @@
 
 #include <string>
 
+#include "board/clashes.hpp"
 #include "board/grid_text.hpp"
+#include "board/search.hpp"
 #include "game/window.hpp"
 
 namespace sdk {
 
-void Window::Extraire_Ligne_Colonne() {
-  Ligne = (NumCase - 1) / 9 + 1;
-  Colonne = NumCase % 9;
-  if (Colonne == 0) Colonne = 9;
-}
+void Window::Extraire_Ligne_Colonne() { SearchCursor{NumCase, Ligne, Colonne}.locate(); }
 
-namespace {
+Bool16 Window::Valide() const { return !has_clash(Grille, {Ligne, Colonne}); }
 
-bool clashes_in_lines(const Square<std::int16_t>& grid, int row, int column) {
-  const int value = grid(row, column);
-  for (int k = 1; k <= 9; ++k) {
-    if (k != column && grid(row, k) == value) return true;
-    if (k != row && grid(k, column) == value) return true;
+void Window::for_each_clash(const std::function<void()>& act) {
+  for (const int number : all_cells) {
+    const Cell cell = cell_at(number);
+    if (Grille(cell.row, cell.column) == 0) continue;
+    Ligne = static_cast<std::int16_t>(cell.row);
+    Colonne = static_cast<std::int16_t>(cell.column);
+    if (!Valide()) act();
   }
-  return false;
-}
-
-bool clashes_in_box(const Square<std::int16_t>& grid, int row, int column) {
-  const int first_row = (row - 1) / 3 * 3 + 1;
-  const int first_column = (column - 1) / 3 * 3 + 1;
-  for (int r = first_row; r <= first_row + 2; ++r)
-    for (int c = first_column; c <= first_column + 2; ++c)
-      if (r != row && c != column && grid(r, c) == grid(row, column)) return true;
-  return false;
-}
-
-}  // namespace
-
-Bool16 Window::Valide() const {
-  return !clashes_in_lines(Grille, Ligne, Colonne) && !clashes_in_box(Grille, Ligne, Colonne);
-}
-
-bool Window::clashes(int row, int column) {
-  Ligne = static_cast<std::int16_t>(row);
-  Colonne = static_cast<std::int16_t>(column);
-  return !Valide();
 }
 
 void Window::verify_valide() {
   GrilleValide = true;
-  for (int r = 1; r <= 9; ++r)
-    for (int c = 1; c <= 9; ++c) {
-      if (Grille(r, c) == 0 || !clashes(r, c)) continue;
-      GrilleValide = false;
-      desktop_.set_pointer(Pointer::arrow);
-    }
+  for_each_clash([this] {
+    GrilleValide = false;
+    desktop_.set_pointer(Pointer::arrow);
+  });
 }
 
 void Window::Lire_Grille_Initiale(std::int16_t row0, std::int16_t column0) {
@@ -65,14 +41,12 @@ void Window::Lire_Grille_Initiale(std::int16_t row0, std::int16_t column0) {
     for (int c = 1; c <= 9; ++c)
       Grille(r, c) = GrilleInitiale(r, c) = numeric_prefix(MSF.text(r - 1, c - 1));
   active();
-  for (int r = 1; r <= 9; ++r)
-    for (int c = 1; c <= 9; ++c) {
-      if (Grille(r, c) == 0 || !clashes(r, c)) continue;
-      MSF.make_current(row0, column0);
-      MSF.set_text_colour(colour::red);
-      globals.GrilleOk = false;
-      desktop_.set_pointer(Pointer::arrow);
-    }
+  for_each_clash([&] {
+    MSF.make_current(row0, column0);
+    MSF.set_text_colour(colour::red);
+    globals.GrilleOk = false;
+    desktop_.set_pointer(Pointer::arrow);
+  });
 }
 
 void Window::CreateGrille() {
@@ -82,7 +56,7 @@ void Window::CreateGrille() {
       for (int j = 1; j <= 9; ++j) {
         MSF.make_current(i - 1, j - 1);
         MSF.set_text_colour(colour::black);
-        MSF.set_text(std::string(character(ChaineGrille, (i - 1) * 9 + j)));
+        MSF.set_text(std::string(character(ChaineGrille, Cell{i, j}.number())));
         MSF.set_back_colour(MSF.current().text == " " ? colour::white : globals.CouleurDonnees);
       }
   }
@@ -115,7 +89,7 @@ void Window::maj_indices() {
   show_count(filled);
   if (filled < 81) return;
   verify_valide();
-  show_message(GrilleValide ? 14 : 13, Icon::exclamation);
+  show_message(GrilleValide ? Message::completed : Message::impossible, Icon::exclamation);
   MSF.refresh();
   trace_ligne();
 }
@@ -135,7 +109,7 @@ void Window::essai() {
     for (int i = 1; i <= 9; ++i)
       for (int j = 1; j <= 9; ++j) {
         MSF.make_current(i - 1, j - 1);
-        MSF.set_text_colour(verdict(MSF.current(), character(ChaineSolution, (i - 1) * 9 + j)));
+        MSF.set_text_colour(verdict(MSF.current(), character(ChaineSolution, Cell{i, j}.number())));
       }
   }
   MSF.refresh();

@@ -24,9 +24,12 @@ void Window::show_count(int filled) {
   set_caption(Control::Label, " " + std::to_string(filled) + " indices");
 }
 
-void Window::show_message(int index, Icon icon) {
-  desktop_.message_box(globals.Messages[static_cast<std::size_t>(index)], icon, Buttons::ok,
-                       globals.TitreFenetre);
+Answer Window::show_box(const std::string& text, Icon icon, Buttons buttons) {
+  return desktop_.message_box(text, icon, buttons, globals.TitreFenetre);
+}
+
+void Window::show_message(Message message, Icon icon) {
+  show_box(text_of(message), icon, Buttons::ok);
 }
 
 std::string from_code_page(std::string_view text) {

@@ -6,12 +6,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
 #include "board/bool16.hpp"
 #include "board/square.hpp"
 #include "game/globals.hpp"
+#include "game/message.hpp"
 #include "screen/controls.hpp"
 #include "screen/desktop.hpp"
 #include "screen/display_grid.hpp"
@@ -69,8 +71,10 @@ class Window {
 
   /// Shows " <n> indices" in `Label`.
   void show_count(int filled);
-  /// A box with `Messages`[index], an OK button and the program's title.
-  void show_message(int index, Icon icon);
+  /// A box with the program's title; what Desktop::message_box returns.
+  Answer show_box(const std::string& text, Icon icon, Buttons buttons);
+  /// A box with the message, an OK button and the program's title.
+  void show_message(Message message, Icon icon);
   Desktop& desktop() { return desktop_; }
 
   /// Shows the buttons that need a puzzle.
@@ -89,8 +93,8 @@ class Window {
   virtual void set_title(std::string title) = 0;
 
  private:
-  /// Makes (row, column) the cell under test and tells whether its value breaks a rule.
-  bool clashes(int row, int column);
+  /// Puts every filled cell of `Grille` under test, row by row, and acts for each that clashes.
+  void for_each_clash(const std::function<void()>& act);
 
   Desktop& desktop_;
 };

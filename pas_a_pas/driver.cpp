@@ -84,7 +84,7 @@ bool some_technique_fires() {
 
 void end_completed() {
   tell_end(RunEnd::completed);
-  sudoku().show_message(14, Icon::exclamation);
+  sudoku().show_message(Message::completed, Icon::exclamation);
   sudoku().MSF.refresh();
   sudoku().trace_ligne();
 }
@@ -96,7 +96,7 @@ void end_exhausted() {
   window.set_focus(Control::MSF);
   window.Lire_Grille_Initiale(0, 0);
   tell_end(RunEnd::exhausted);
-  window.show_message(32, Icon::exclamation);
+  window.show_message(Message::no_suggestion, Icon::exclamation);
   window.trace_ligne();
   window.set_focus(Control::MSF);
 }

@@ -40,9 +40,9 @@ void offer(Single kind, Cell cell, int digit) {
   marque_case(cell.row, cell.column, mark::support);
   sudoku().trace_ligne();
   if (solver.observer) solver.observer->offered(kind, cell, digit);
-  const std::string question = globals.Messages[kind == Single::naked ? 33 : 34] +
-                               std::to_string(cell.row) + " C" + std::to_string(cell.column) + " " +
-                               std::to_string(digit);
+  const std::string question =
+      text_of(kind == Single::naked ? Message::naked_single : Message::hidden_single) +
+      std::to_string(cell.row) + " C" + std::to_string(cell.column) + " " + std::to_string(digit);
   const Answer answer =
       sudoku().desktop().message_box(question, Icon::none, Buttons::yes_no, globals.TitreFenetre);
   if (answer == Answer::yes) accept(cell, digit);

@@ -43,48 +43,48 @@ CellRange DisplayGrid::selection() const {
 
 void DisplayGrid::set_text_colour(Colour colour) {
   cell_at(row_, column_).text_colour = colour;
-  current_cell_changed();
+  tell_current_cell();
 }
 
 void DisplayGrid::set_back_colour(Colour colour) {
   cell_at(row_, column_).back_colour = colour;
-  current_cell_changed();
+  tell_current_cell();
 }
 
 void DisplayGrid::set_font_size(int points) {
   cell_at(row_, column_).font_size = points;
-  current_cell_changed();
+  tell_current_cell();
 }
 
 void DisplayGrid::set_mark(int mode) {
   cell_at(row_, column_).mark = mode;
-  current_cell_changed();
+  tell_current_cell();
 }
 
 void DisplayGrid::set_visible(bool visible) {
   visible_ = visible;
-  appearance_changed();
+  tell_appearance();
 }
 
 void DisplayGrid::set_tab_stop(bool on) {
   tab_stop_ = on;
-  appearance_changed();
+  tell_appearance();
 }
 
 void DisplayGrid::set_marks_current(bool on) {
   marks_current_ = on;
-  appearance_changed();
+  tell_appearance();
 }
 
 void DisplayGrid::refresh() {
   if (listener_) listener_->refresh();
 }
 
-void DisplayGrid::appearance_changed() {
+void DisplayGrid::tell_appearance() {
   if (listener_) listener_->appearance_changed();
 }
 
-void DisplayGrid::current_cell_changed() {
+void DisplayGrid::tell_current_cell() {
   if (listener_) listener_->cell_changed(row_, column_);
 }
 

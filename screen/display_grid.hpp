@@ -7,6 +7,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "screen/colours.hpp"
 
@@ -20,6 +21,8 @@ struct DisplayCell {
   Colour back_colour = colour::white;
   int font_size = 0;  ///< in points; 0 is the grid's own size
   int mark = 0;       ///< the last mark mode given to the cell, 0..6
+
+  bool operator==(const DisplayCell&) const = default;
 
   /// A coloured background is all that tells a given of the puzzle from a player's cell.
   bool is_given() const { return back_colour != colour::white; }
@@ -53,6 +56,8 @@ class DisplayGrid {
 
   const DisplayCell& cell(int row, int column) const;
   const std::string& text(int row, int column) const { return cell(row, column).text; }
+  /// All cells as they are now, row by row.
+  std::vector<DisplayCell> cells() const { return {cells_.begin(), cells_.end()}; }
   /// Empty means exactly one space; anything else counts as filled, an empty text too.
   bool is_filled(int row, int column) const { return text(row, column) != " "; }
 
@@ -67,7 +72,7 @@ class DisplayGrid {
   int current_column() const { return column_; }
   CellRange selection() const;
 
-  // The next five change the current cell.
+  // The next five write to the current cell.
   void set_text(std::string text) { set_text(row_, column_, std::move(text)); }
   void set_text_colour(Colour colour);
   void set_back_colour(Colour colour);
@@ -92,8 +97,8 @@ class DisplayGrid {
 
  private:
   DisplayCell& cell_at(int row, int column);
-  void appearance_changed();
-  void current_cell_changed();
+  void tell_appearance();
+  void tell_current_cell();
 
   std::array<DisplayCell, size * size> cells_;
   int row_ = 0, column_ = 0, other_row_ = 0, other_column_ = 0;

@@ -9,6 +9,8 @@
 #include <variant>
 #include <vector>
 
+#include "screen/display_grid.hpp"
+
 namespace sdk {
 
 /// A straight line. On a window `width` is in pixels, on a page in twips.
@@ -27,9 +29,10 @@ struct TextDrawing {
   bool operator==(const TextDrawing&) const = default;
 };
 
-/// The grid `MSF` as the player sees it, without its box lines, scaled into the rectangle.
+/// A grid as the player sees it, without its box lines, scaled into the rectangle.
 struct PictureDrawing {
   float x, y, width, height;
+  std::vector<DisplayCell> cells;  ///< 81, row by row
   bool operator==(const PictureDrawing&) const = default;
 };
 

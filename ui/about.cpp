@@ -3,7 +3,7 @@
 
 #include "ui/about.hpp"
 
-#include "game/globals.hpp"
+#include "game/message.hpp"
 #include "ui/messages.hpp"
 
 namespace sdk {
@@ -31,7 +31,7 @@ std::string About::text(AboutControl control) const {
   const Box& box = box_.value();
   switch (control) {
     case AboutControl::Picture:
-      return globals.Messages[30];
+      return text_of(Message::picture_credit);
     case AboutControl::Label2:
       return box.author_caption;
     case AboutControl::Label1:

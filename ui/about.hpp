@@ -6,15 +6,33 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+
+#include "screen/keyed_rows.hpp"
 
 namespace sdk {
 
-/// The controls of the box, in the order in which they are read.
 enum class AboutControl { Picture, Label2, Label1, lblVersion, lblCopyright };
 
-inline constexpr AboutControl about_controls[] = {AboutControl::Picture, AboutControl::Label2,
-                                                  AboutControl::Label1, AboutControl::lblVersion,
-                                                  AboutControl::lblCopyright};
+struct AboutControlRow {
+  AboutControl control;
+  std::string_view name;  ///< what scripts and the widgets call it
+};
+
+/// The controls of the box, in the order in which they are read.
+inline constexpr AboutControlRow about_controls[] = {
+    {AboutControl::Picture, "Picture"},
+    {AboutControl::Label2, "Label2"},
+    {AboutControl::Label1, "Label1"},
+    {AboutControl::lblVersion, "lblVersion"},
+    {AboutControl::lblCopyright, "lblCopyright"},
+};
+static_assert(has_row_for_each(about_controls, &AboutControlRow::control,
+                               AboutControl::lblCopyright));
+
+constexpr std::string_view name_of(AboutControl control) {
+  return row_of(about_controls, control).name;
+}
 
 /// A box that does not exist, exists unseen, or is shown.
 class About {

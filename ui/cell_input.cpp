@@ -25,7 +25,7 @@ bool may_change(const DisplayCell& cell) { return !cell.is_given() || !globals.P
 }  // namespace
 
 void MainWindow::key_down(int code, bool ctrl) {
-  guarded([&] {
+  run_guarded([&] {
     if (ctrl && code == key::c)
       copy_rows();
     else if (ctrl && code == key::a)

@@ -30,18 +30,18 @@ void MainWindow::click(Control button) {
       {Control::Command1, &MainWindow::new_puzzle}, {Control::Command2, &MainWindow::clear},
       {Control::Command3, &MainWindow::quit},       {Control::Command4, &MainWindow::print},
       {Control::Command5, &MainWindow::show_about}, {Control::Command6, &MainWindow::load},
-      {Control::Command7, &MainWindow::essai},      {Control::Command8, &MainWindow::hint},
+      {Control::Command7, &MainWindow::essai},      {Control::Command8, &MainWindow::give_hint},
       {Control::sauve, &MainWindow::save},          {Control::Bouton_GO, &MainWindow::solve},
-      {Control::aide, &MainWindow::help},
+      {Control::aide, &MainWindow::open_help},
   };
   const auto* command = std::ranges::find(commands, button, &Command::button);
-  if (command != std::end(commands)) guarded([&] { (this->*command->procedure)(); });
+  if (command != std::end(commands)) run_guarded([&] { (this->*command->procedure)(); });
 }
 
 void MainWindow::check(Control box, bool on) {
   controls_[index(box)].checked = on;
   if (listener_) listener_->controls_changed();
-  guarded([&] {
+  run_guarded([&] {
     if (box == Control::Check1) VerifAuVol = on;
     if (box == Control::Check2) show_candidates(on);
     if (box == Control::Check3) globals.ProtegeGrille = on;
@@ -62,15 +62,19 @@ void MainWindow::choose_level(std::optional<int> item) {
   const bool exists = item && *item >= 0 && *item < static_cast<int>(levels_.size());
   chosen_level_ = exists ? item : std::nullopt;
   globals.NiveauCourant = exists ? levels_[static_cast<std::size_t>(*item)].level : std::int16_t{0};
-  globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
+  take_level_colour();
   if (listener_) listener_->controls_changed();
+}
+
+void MainWindow::take_level_colour() {
+  globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
 }
 
 void MainWindow::new_puzzle() {
   set_visible(Control::Command8, true);
   {
     HiddenWhileWorking hidden(MSF);
-    globals.CouleurDonnees = colour::level.at(static_cast<std::size_t>(globals.NiveauCourant));
+    take_level_colour();
     Nouvelle_Grille(resGrille, Masque);
     set_title(globals.TitreFenetre);
     write_puzzle();
@@ -123,11 +127,13 @@ void MainWindow::quit() {
   trace_ligne();
 }
 
-bool MainWindow::close(CloseMode mode) { return mode == CloseMode::session_end || confirm_quit(); }
+bool MainWindow::confirm_close(CloseMode mode) {
+  return mode == CloseMode::session_end || confirm_quit();
+}
 
 bool MainWindow::confirm_quit() {
-  return desktop().message_box(globals.Messages[12] + globals.TitreFenetre + "? ", Icon::question,
-                               Buttons::yes_no, globals.TitreFenetre) == Answer::yes;
+  const std::string question = text_of(Message::really_quit) + globals.TitreFenetre + "? ";
+  return show_box(question, Icon::question, Buttons::yes_no) == Answer::yes;
 }
 
 void MainWindow::save() {
@@ -137,7 +143,7 @@ void MainWindow::save() {
   Save_Grille(name);
 }
 
-void MainWindow::export_entry() { guarded(generate_sudoku); }
+void MainWindow::export_entry() { run_guarded(generate_sudoku); }
 
 void MainWindow::load() {
   const std::string name = desktop().open_dialog(file_filter);
@@ -164,7 +170,7 @@ void MainWindow::solve_opened() {
 
 void MainWindow::solve() { Bouton_GO_Click(); }
 
-void MainWindow::hint() {
+void MainWindow::give_hint() {
   globals.ModePasAPas = true;
   suggestion();
 }
@@ -207,7 +213,7 @@ void MainWindow::close_about() {
   if (listener_) listener_->about_changed();
 }
 
-void MainWindow::help() {
+void MainWindow::open_help() {
   const char* document = globals.Langue == "En" ? "Sudoku_En.pdf" : "Sudoku_Fr.pdf";
   try_to_open([&] {
     const auto path = desktop().program_folder() / document;

@@ -9,7 +9,7 @@
 
 namespace sdk {
 
-void MainWindow::guarded(const std::function<void()>& handler) {
+void MainWindow::run_guarded(const std::function<void()>& handler) {
   try {
     handler();
   } catch (const RuntimeError& error) {
@@ -34,23 +34,23 @@ bool is_empty(const DisplayGrid& grid) {
 }
 
 /// Saves the displayed grid, unless it is empty, beside earlier ones and says where, or why not.
-std::string rescue_grid(Desktop& desktop, const RuntimeError& error) {
-  if (is_empty(sudoku().MSF)) return notice(Notice::fatal, globals.Langue, error.what());
+std::string rescue_grid(Window& window, const std::string& language, const RuntimeError& error) {
+  if (is_empty(window.MSF)) return notice(Notice::fatal, language, error.what());
   try {
-    const auto path = unused_name(desktop.data_folder());
+    const auto path = unused_name(window.desktop().data_folder());
     Save_Grille(path.string());
-    return notice(Notice::fatal_saved, globals.Langue, error.what(), path.string());
+    return notice(Notice::fatal_saved, language, error.what(), path.string());
   } catch (const std::exception& failure) {
-    return notice(Notice::fatal_not_saved, globals.Langue, error.what(), failure.what());
+    return notice(Notice::fatal_not_saved, language, error.what(), failure.what());
   }
 }
 
 }  // namespace
 
 void MainWindow::end_fatally(const RuntimeError& error) {
-  const std::string text = rescue_grid(desktop(), error);
+  const std::string text = rescue_grid(*this, globals.Langue, error);
   desktop().report_error(text);
-  desktop().message_box(text, Icon::critical, Buttons::ok, globals.TitreFenetre);
+  show_box(text, Icon::critical, Buttons::ok);
   throw ProgramEnd{1};
 }
 

@@ -15,45 +15,43 @@ namespace {
 
 struct ControlText {
   Control control;
-  std::size_t message;
+  Message message;
 };
 
 constexpr std::array<ControlText, 10> button_tooltips{{
-    {Control::Command1, 0},
-    {Control::Command2, 1},
-    {Control::Command6, 2},
-    {Control::sauve, 3},
-    {Control::Bouton_GO, 4},
-    {Control::Command4, 5},
-    {Control::Command5, 6},
-    {Control::aide, 7},
-    {Control::Command3, 8},
-    {Control::Command7, 9},
+    {Control::Command1, Message::new_puzzle},
+    {Control::Command2, Message::clear_grid},
+    {Control::Command6, Message::load_puzzle},
+    {Control::sauve, Message::save_puzzle},
+    {Control::Bouton_GO, Message::solve_puzzle},
+    {Control::Command4, Message::print_puzzle},
+    {Control::Command5, Message::about},
+    {Control::aide, Message::help},
+    {Control::Command3, Message::quit},
+    {Control::Command7, Message::show_bad_values},
 }};
 
 constexpr std::array<ControlText, 3> check_texts{{
-    {Control::Check3, 10},
-    {Control::Check2, 22},
-    {Control::Check1, 11},
+    {Control::Check3, Message::keep_initial_grid},
+    {Control::Check2, Message::show_candidates},
+    {Control::Check1, Message::verify_on_the_fly},
 }};
 
 }  // namespace
 
 void MainWindow::langage(const std::string& language) {
   globals.Messages = messages_in(language);
-  for (const auto& [control, message] : button_tooltips)
-    set_tooltip(control, globals.Messages[message]);
+  for (const auto& [control, message] : button_tooltips) set_tooltip(control, text_of(message));
   for (const auto& [control, message] : check_texts) {
-    set_caption(control, globals.Messages[message]);
-    set_tooltip(control, globals.Messages[message]);
+    set_caption(control, text_of(message));
+    set_tooltip(control, text_of(message));
   }
-  set_caption(Control::Label3, globals.Messages[15]);
+  set_caption(Control::Label3, text_of(Message::credit));
   levels_.clear();
   chosen_level_.reset();
-  for (std::int16_t level = 0; level <= 4; ++level)
-    levels_.push_back({globals.Messages[static_cast<std::size_t>(16 + level)], level});
+  for (std::int16_t level = 0; level <= 4; ++level) levels_.push_back({level_name(level), level});
   about_.load();
-  about_.set_author_caption(globals.Messages[31]);
+  about_.set_author_caption(text_of(Message::author));
   if (listener_) listener_->controls_changed();
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "files/puzzle_file.hpp"
+#include "pas_a_pas/tables.hpp"
 #include "ui/version.hpp"
 
 namespace sdk {
@@ -13,14 +14,15 @@ namespace sdk {
 MainWindow::MainWindow(Desktop& desktop) : Window(desktop) {}
 
 void MainWindow::start(const std::string& command_line) {
-  guarded([&] {
+  run_guarded([&] {
     globals = {};
+    solver = {};
     globals.TitreFenetre = std::string("SuDoKu ") + program_version;
     langage(globals.Langue);
     inactive();
     set_visible(Control::Command1, true);
     set_visible(Control::Command6, true);
-    set_caption(Control::Label3, globals.TitreFenetre + globals.Messages[15]);
+    set_caption(Control::Label3, globals.TitreFenetre + text_of(Message::credit));
     controls_[index(Control::Check3)].checked = true;
     prepare_grid(MSF);
     prepare_grid(MSR);
@@ -42,7 +44,7 @@ void MainWindow::open_at_start(const std::string& command_line) {
 }
 
 void MainWindow::finish_start() {
-  if (opened_at_start_) guarded([this] { solve_opened(); });
+  if (opened_at_start_) run_guarded([this] { solve_opened(); });
 }
 
 void MainWindow::prepare_grid(DisplayGrid& grid) {
@@ -56,9 +58,7 @@ bool MainWindow::visible(Control id) const {
   return control(id).visible;
 }
 
-const std::string& MainWindow::level_text() const {
-  return globals.Messages.at(static_cast<std::size_t>(16 + globals.NiveauCourant));
-}
+const std::string& MainWindow::level_text() const { return level_name(globals.NiveauCourant); }
 
 void MainWindow::active() {
   for (const Control id : {Control::Command2, Control::sauve, Control::Bouton_GO, Control::Command4,

@@ -67,9 +67,9 @@ class MainWindow final : public Window {
  public:
   explicit MainWindow(Desktop& desktop);
 
-  /// Start-up; every global takes its start value. A command line that is not empty names the
-  /// puzzle file to open, relative to the current folder; else a new puzzle is made. At most one
-  /// call, before the window is shown.
+  /// Start-up; every global and table of the solver takes its start value. A command line that is
+  /// not empty names the puzzle file to open, relative to the current folder; else a new puzzle is
+  /// made. At most one call, before the window is shown.
   void start(const std::string& command_line);
   /// The rest of start-up, once the window is on screen: the opened puzzle is solved silently.
   void finish_start();
@@ -95,8 +95,8 @@ class MainWindow final : public Window {
   /// A key or a mouse button pressed in the about box, or its own close command; nothing happens
   /// while it is not shown.
   void close_about();
-  /// Whether the window may close. Asks the player, but for the end of the session.
-  bool close(CloseMode mode);
+  /// Asks the player whether the window may close; at the end of the session it may, unasked.
+  bool confirm_close(CloseMode mode);
 
   const ControlState& control(Control id) const { return controls_[index(id)]; }
   bool visible(Control id) const;
@@ -130,7 +130,7 @@ class MainWindow final : public Window {
  private:
   static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
 
-  void guarded(const std::function<void()>& handler);
+  void run_guarded(const std::function<void()>& handler);
   [[noreturn]] void end_fatally(const RuntimeError& error);
 
   void set_tooltip(Control control, std::string tooltip);
@@ -140,6 +140,7 @@ class MainWindow final : public Window {
   void show_candidates(bool shown);
   bool confirm_quit();
 
+  void take_level_colour();
   void new_puzzle();
   void write_puzzle();
   void clear();
@@ -148,10 +149,10 @@ class MainWindow final : public Window {
   void save();
   void load();
   void solve_opened();
-  void hint();
+  void give_hint();
   void solve();
   void show_about();
-  void help();
+  void open_help();
 
   void erase_selection();
   void type_digit(char digit);
@@ -159,7 +160,7 @@ class MainWindow final : public Window {
   void copy_rows();
   void select_all();
 
-  std::array<ControlState, control_count> controls_;
+  std::array<ControlState, std::size(all_controls)> controls_;
   std::vector<LevelItem> levels_;
   std::optional<int> chosen_level_;
   std::string title_;

@@ -35,16 +35,16 @@ std::vector<LineDrawing> page_lines(const Rectangle& grid) {
 
 }  // namespace
 
-Page printed_page(PageSize paper, const Layout& layout, const std::string& title,
-                  const std::string& credit) {
+Page printed_page(PageSize paper, const Layout& layout, const DisplayGrid& puzzle,
+                  const std::string& title, const std::string& credit) {
   const float width = layout.MSF.width, height = layout.MSF.height;
   const float left =
       paper.width > layout.window.width ? (paper.width - layout.window.width) / 2 : 1000;
   const float top = (paper.height - layout.window.height) / 2;
   Page page{TextDrawing{left, top - 600, "Arial", 14, title},
-            PictureDrawing{left, top, width, height}};
+            PictureDrawing{left, top, width, height, puzzle.cells()}};
   for (const LineDrawing& line : page_lines({left - 10, top - 10, width, height}))
-    page.push_back(line);
+    page.emplace_back(line);
   page.push_back(TextDrawing{left, top + height + 100, "Arial", 8, credit});
   return page;
 }
@@ -63,7 +63,8 @@ void MainWindow::redraw_lines() { trace_ligne(); }
 
 void MainWindow::print() {
   const PageSize paper = desktop().printer_page();
-  desktop().print(printed_page(paper, layout_, globals.TitreFenetre, globals.Messages[15]));
+  desktop().print(
+      printed_page(paper, layout_, MSF, globals.TitreFenetre, text_of(Message::credit)));
   refresh();
   trace_ligne();
 }

@@ -65,24 +65,23 @@ void check_chains(Check& check, const MainWindow& w) {
   check.expect(all_digits(w.ChaineSolution), "ChaineSolution holds more than digits");
 }
 
-void check_globals(Check& check) {
-  check.expect(is_between(globals.NiveauCourant, 0, 4), "NiveauCourant out of range");
-  check.expect(globals.CouleurDonnees == colour::from_file ||
-                   std::ranges::count(colour::level, globals.CouleurDonnees) == 1,
+void check_globals(Check& check, const Globals& g) {
+  check.expect(is_between(g.NiveauCourant, 0, 4), "NiveauCourant out of range");
+  check.expect(g.CouleurDonnees == colour::from_file ||
+                   std::ranges::count(colour::level, g.CouleurDonnees) == 1,
                "CouleurDonnees is no colour of givens");
-  check.expect(globals.Langue == "Fr" || globals.Langue == "En", "Langue is unknown");
-  check.expect(globals.Messages == messages_in(globals.Langue), "Messages differ from Langue");
-  check.expect(!globals.ResolutionSilencieuse, "ResolutionSilencieuse outlived its solve");
+  check.expect(g.Langue == "Fr" || g.Langue == "En", "Langue is unknown");
+  check.expect(g.Messages == messages_in(g.Langue), "Messages differ from Langue");
+  check.expect(!g.ResolutionSilencieuse, "ResolutionSilencieuse outlived its solve");
 }
 
-void check_controls(Check& check, const MainWindow& w) {
+void check_controls(Check& check, const MainWindow& w, const Globals& g) {
   check.expect(w.MSF.visible(), "MSF stayed hidden");
-  check.expect(w.MSR.visible() == bool(globals.AfficheCandidats), "MSR is not as Check2 says");
+  check.expect(w.MSR.visible() == bool(g.AfficheCandidats), "MSR is not as Check2 says");
   check.expect(w.visible(Control::rect2) == w.MSR.visible(), "rect2 is not as MSR");
   check.expect(w.control(Control::Check1).checked == bool(w.VerifAuVol), "Check1 differs");
-  check.expect(w.control(Control::Check2).checked == bool(globals.AfficheCandidats),
-               "Check2 differs");
-  check.expect(w.control(Control::Check3).checked == bool(globals.ProtegeGrille), "Check3 differs");
+  check.expect(w.control(Control::Check2).checked == bool(g.AfficheCandidats), "Check2 differs");
+  check.expect(w.control(Control::Check3).checked == bool(g.ProtegeGrille), "Check3 differs");
   check.expect(w.visible(Control::Command1), "Command1 is hidden");
   check.expect(w.levels().size() == 5, "Niveau has lost its items");
   check.expect(w.searches_running == 0, "a search is still counted");
@@ -96,8 +95,8 @@ std::string state_fault(const MainWindow& window) {
   Check check;
   check_cells(check, window);
   check_chains(check, window);
-  check_globals(check);
-  check_controls(check, window);
+  check_globals(check, globals);
+  check_controls(check, window, globals);
   return std::move(check).fault();
 }
 

@@ -55,9 +55,9 @@ TEST_F(StartWithFile, ShowsThePuzzleInsteadOfANewOne) {
 
 TEST_F(StartWithFile, ShowsAllButtons) {
   w.start(file.string());
-  for (int i = 0; i < control_count; ++i) {
-    const auto id = static_cast<Control>(i);
-    EXPECT_EQ(w.visible(id), id != Control::MSR && id != Control::rect2) << i;
+  for (const ControlRow& row : all_controls) {
+    const Control id = row.control;
+    EXPECT_EQ(w.visible(id), id != Control::MSR && id != Control::rect2) << row.name;
   }
 }
 

@@ -99,7 +99,7 @@ void plain_resoudre(MainWindow& w) {
   --w.searches_running;
 
   if (globals.ArretDemande) {
-    w.show_message(23, Icon::critical);
+    w.show_message(Message::search_stopped, Icon::critical);
     restore_settings(w);
     w.desktop().set_pointer(Pointer::arrow);
     return;
@@ -109,7 +109,7 @@ void plain_resoudre(MainWindow& w) {
   if (w.NumCase > 0) {
     solved(w);
   } else {
-    w.show_message(13, Icon::critical);
+    w.show_message(Message::impossible, Icon::critical);
     restore_settings(w);
     w.active();
   }

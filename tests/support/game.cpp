@@ -115,11 +115,11 @@ void dump_globals(std::ostream& out) {
 }
 
 void dump_controls(std::ostream& out, const MainWindow& w) {
-  for (int i = 0; i < control_count; ++i) {
-    const auto id = static_cast<Control>(i);
+  for (const ControlRow& row : all_controls) {
+    const Control id = row.control;
     const ControlState& state = w.control(id);
-    out << "control " << i << " \"" << state.caption << "\" \"" << state.tooltip << "\" visible "
-        << w.visible(id) << " checked " << state.checked << '\n';
+    out << "control " << row.name << " \"" << state.caption << "\" \"" << state.tooltip
+        << "\" visible " << w.visible(id) << " checked " << state.checked << '\n';
   }
   for (const LevelItem& item : w.levels()) out << item.level << " \"" << item.name << "\"\n";
   out << "level " << w.chosen_level().value_or(-1) << " \"" << w.level_text() << "\" title \""
@@ -130,7 +130,7 @@ void dump_controls(std::ostream& out, const MainWindow& w) {
 void dump_about(std::ostream& out, const About& about) {
   out << "about exists " << about.exists() << " shown " << about.shown() << '\n';
   if (!about.exists()) return;
-  for (const AboutControl control : about_controls) out << '"' << about.text(control) << "\"\n";
+  for (const AboutControlRow& row : about_controls) out << '"' << about.text(row.control) << "\"\n";
 }
 
 }  // namespace

@@ -171,7 +171,7 @@ TEST_F(AboutBox, StaysAsItIsWhenThePageCannotBeOpened) {
 
 TEST_F(AboutBox, TakesNoEventWhileItIsNotShown) {
   w.close_about();
-  for (const AboutControl control : about_controls) w.click_about(control);
+  for (const AboutControlRow& row : about_controls) w.click_about(row.control);
   EXPECT_TRUE(w.about().exists());
   EXPECT_TRUE(game.repaints.empty());
   EXPECT_TRUE(desktop.opened.empty());
@@ -237,8 +237,8 @@ TEST_F(Help, DrawsTheBoxLinesAgainWhenItsButtonLosesTheFocus) {
 }
 
 TEST_F(Help, AloneDrawsTheBoxLinesAgain) {
-  for (int i = 0; i < control_count; ++i)
-    if (const auto other = static_cast<Control>(i); other != Control::aide) w.focus_lost(other);
+  for (const ControlRow& row : all_controls)
+    if (row.control != Control::aide) w.focus_lost(row.control);
   EXPECT_TRUE(game.repaints.empty());
 }
 

@@ -327,20 +327,20 @@ TEST_F(Leaving, ClosingByTheWindowOrTheTaskManagerAsks) {
   for (const CloseMode mode : {CloseMode::window_command, CloseMode::task_manager}) {
     game.forget();
     desktop.answers = {Answer::no, Answer::yes};
-    EXPECT_FALSE(w.close(mode));
-    EXPECT_TRUE(w.close(mode));
+    EXPECT_FALSE(w.confirm_close(mode));
+    EXPECT_TRUE(w.confirm_close(mode));
     EXPECT_EQ(desktop.boxes, (std::vector{question(), question()}));
   }
 }
 
 TEST_F(Leaving, ClosingAtTheEndOfTheSessionAsksNothing) {
-  EXPECT_TRUE(w.close(CloseMode::session_end));
+  EXPECT_TRUE(w.confirm_close(CloseMode::session_end));
   EXPECT_TRUE(desktop.boxes.empty());
 }
 
 TEST_F(Leaving, ARefusedCloseLeavesEverythingAsItWas) {
   const std::string before = dump(w);
-  w.close(CloseMode::window_command);
+  w.confirm_close(CloseMode::window_command);
   EXPECT_EQ(difference(before, dump(w)), "");
 }
 

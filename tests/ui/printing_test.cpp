@@ -27,15 +27,19 @@ std::vector<LineDrawing> expected_lines(float l, float t) {
           {15, l, b, l, t}};
 }
 
-Page expected_page(float x, float y, const std::string& credit) {
-  Page page{TextDrawing{x, y - 600, "Arial", 14, "SuDoKu 1.0.0"}, PictureDrawing{x, y, grid, grid}};
-  for (const LineDrawing& line : expected_lines(x - 10, y - 10)) page.push_back(line);
+Page page_with(const std::vector<DisplayCell>& cells, float x, float y, const std::string& credit) {
+  Page page{TextDrawing{x, y - 600, "Arial", 14, "SuDoKu 1.0.0"},
+            PictureDrawing{x, y, grid, grid, cells}};
+  for (const LineDrawing& line : expected_lines(x - 10, y - 10)) page.emplace_back(line);
   page.push_back(TextDrawing{x, y + grid + 100, "Arial", 8, credit});
   return page;
 }
 
 class Printing : public testing::Test {
  protected:
+  Page expected_page(float x, float y, const std::string& credit) const {
+    return page_with(w.MSF.cells(), x, y, credit);
+  }
   float window_height() const { return w.layout().window.height; }
 
   Game game;
@@ -77,6 +81,18 @@ TEST_F(Printing, PrintsTheCreditInTheCurrentLanguageAndThePlainTitle) {
   const Page& page = desktop.prints.at(0);
   EXPECT_EQ(std::get<TextDrawing>(page.front()).text, "SuDoKu 1.0.0");
   EXPECT_EQ(std::get<TextDrawing>(page.back()).text, " proposed by the SuDoKu team");
+}
+
+TEST_F(Printing, KeepsThePictureOfTheMomentInThePage) {
+  game.draw(
+      "53.......\n.........\n.........\n.........\n.........\n.........\n.........\n"
+      ".........\n.........\n");
+  w.click(Control::Command4);
+  const std::vector<DisplayCell> shown = w.MSF.cells();
+  w.MSF.set_text(0, 0, "9");
+  const auto picture = std::get<PictureDrawing>(desktop.prints.at(0).at(1));
+  EXPECT_EQ(picture.cells, shown);
+  EXPECT_EQ(picture.cells.at(1).text, "3");
 }
 
 TEST_F(Printing, RepaintsAfterwardsAndChangesNothing) {

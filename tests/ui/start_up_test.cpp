@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "pas_a_pas/tables.hpp"
 #include "tests/support/game.hpp"
 #include "ui/messages.hpp"
 #include "ui/state_check.hpp"
@@ -52,6 +53,22 @@ TEST_F(StartUp, GivesTheFlagsTheirStartValuesAfterAnEarlierWindowToo) {
     EXPECT_FALSE(flag);
 }
 
+TEST_F(StartUp, EmptiesTheTablesOfTheSolverAfterAnEarlierWindow) {
+  solver.running = solver.run_wanted = true;
+  solver.GrilleFinie = solver.SuggestionTrouvee = true;
+  solver.LienFort.of(5, 1).insert(2);
+  solver.Couleur.paint(81, 1);
+  solver.step.digits = {7};
+  FakeDesktop desktop;
+  MainWindow second(desktop);
+  second.start("");
+  EXPECT_FALSE(solver.running || solver.run_wanted);
+  EXPECT_FALSE(solver.GrilleFinie || solver.SuggestionTrouvee);
+  EXPECT_TRUE(solver.LienFort.of(5, 1).empty());
+  EXPECT_TRUE(solver.Couleur.coloured().empty());
+  EXPECT_TRUE(solver.step.digits.empty());
+}
+
 TEST_F(StartUp, NamesTheProgramAndItsVersion) {
   EXPECT_EQ(globals.TitreFenetre, std::string("SuDoKu ") + program_version);
   EXPECT_EQ(globals.TitreFenetre, "SuDoKu 1.0.0");
@@ -60,9 +77,9 @@ TEST_F(StartUp, NamesTheProgramAndItsVersion) {
 }
 
 TEST_F(StartUp, ShowsEveryControlButTheCandidates) {
-  for (int i = 0; i < control_count; ++i) {
-    const auto id = static_cast<Control>(i);
-    EXPECT_EQ(w.visible(id), id != Control::MSR && id != Control::rect2) << i;
+  for (const ControlRow& row : all_controls) {
+    const Control id = row.control;
+    EXPECT_EQ(w.visible(id), id != Control::MSR && id != Control::rect2) << row.name;
   }
 }
 

@@ -5,7 +5,6 @@
 
 #include <ostream>
 
-#include "tools/script/control_names.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {
@@ -14,8 +13,8 @@ namespace {
 
 void print(std::ostream& out, const About& about) {
   out << "about begin\n";
-  for (const AboutControl control : about_controls)
-    out << "about " << about_control_name(control) << ' ' << in_quotes(about.text(control)) << '\n';
+  for (const auto& [control, name] : about_controls)
+    out << "about " << name << ' ' << in_quotes(about.text(control)) << '\n';
   out << "about end\n";
 }
 

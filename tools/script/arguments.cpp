@@ -7,8 +7,6 @@
 #include <charconv>
 #include <utility>
 
-#include "tools/script/control_names.hpp"
-
 namespace sdk {
 
 namespace {
@@ -26,20 +24,20 @@ Arguments::Arguments(std::string_view text) : text_(trimmed(text)) {}
 
 std::string_view Arguments::next() const { return text_.substr(0, text_.find_first_of(blanks)); }
 
-std::string Arguments::word(std::string_view what) {
+std::string Arguments::take_word(std::string_view what) {
   if (empty()) throw ScriptError(std::string(what) + " is missing");
   const std::string taken(next());
   text_ = trimmed(text_.substr(taken.size()));
   return taken;
 }
 
-std::string Arguments::rest(std::string_view what) {
+std::string Arguments::take_rest(std::string_view what) {
   if (empty()) throw ScriptError(std::string(what) + " is missing");
   return std::string(std::exchange(text_, {}));
 }
 
-long Arguments::number(std::string_view what, long low, long high) {
-  const std::string taken = word(what);
+long Arguments::take_number(std::string_view what, long low, long high) {
+  const std::string taken = take_word(what);
   long value = 0;
   const char* last = taken.data() + taken.size();
   const auto [end, fault] = std::from_chars(taken.data(), last, value);
@@ -49,23 +47,25 @@ long Arguments::number(std::string_view what, long low, long high) {
   return value;
 }
 
-int Arguments::grid_line(std::string_view what) { return static_cast<int>(number(what, 1, 9)) - 1; }
+int Arguments::take_grid_line(std::string_view what) {
+  return static_cast<int>(take_number(what, 1, 9)) - 1;
+}
 
-bool Arguments::choice(std::string_view yes, std::string_view no) {
+bool Arguments::take_choice(std::string_view yes, std::string_view no) {
   const std::string both = std::string(yes) + " or " + std::string(no);
-  const std::string taken = word(both);
+  const std::string taken = take_word(both);
   if (taken != yes && taken != no) throw ScriptError("not " + both + ": " + taken);
   return taken == yes;
 }
 
-Control Arguments::control() {
-  const std::string taken = word("NAME");
+Control Arguments::take_control() {
+  const std::string taken = take_word("NAME");
   const auto control = control_named(taken);
   if (!control) throw ScriptError("no control of that name: " + taken);
   return *control;
 }
 
-void Arguments::end() const {
+void Arguments::expect_end() const {
   if (!empty()) throw ScriptError("too many arguments: " + std::string(text_));
 }
 

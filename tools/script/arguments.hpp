@@ -31,18 +31,18 @@ class Arguments {
   /// The next word, without taking it; empty when there is none.
   std::string_view next() const;
   /// `what` names the argument to whoever reads the error.
-  std::string word(std::string_view what);
+  std::string take_word(std::string_view what);
   /// All that is left, blanks inside included.
-  std::string rest(std::string_view what);
+  std::string take_rest(std::string_view what);
   /// A decimal number from `low` to `high`.
-  long number(std::string_view what, long low, long high);
+  long take_number(std::string_view what, long low, long high);
   /// A row or column, 1 to 9 in the script, 0 to 8 in the result.
-  int grid_line(std::string_view what);
+  int take_grid_line(std::string_view what);
   /// Whether the next word is `yes` rather than `no`.
-  bool choice(std::string_view yes, std::string_view no);
-  Control control();
+  bool take_choice(std::string_view yes, std::string_view no);
+  Control take_control();
   /// Throws ScriptError when something is left.
-  void end() const;
+  void expect_end() const;
 
  private:
   std::string_view text_;

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "files/platform.hpp"
-#include "tools/script/control_names.hpp"
 #include "tools/script/keyboard.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/show.hpp"
@@ -19,37 +18,37 @@ namespace {
 
 void require_visible(Script& script, Control control) {
   if (!script.window().visible(control))
-    throw ScriptError(std::string(control_name(control)) + " is hidden");
+    throw ScriptError(std::string(name_of(control)) + " is hidden");
 }
 
 Action seed(Script& script, Arguments& arguments) {
-  const long n = arguments.number("N", 0, std::numeric_limits<std::uint32_t>::max());
+  const long n = arguments.take_number("N", 0, std::numeric_limits<std::uint32_t>::max());
   return [&script, n] { script.desktop().settings.seed = static_cast<std::uint32_t>(n); };
 }
 
 Action printer(Script& script, Arguments& arguments) {
-  const bool on = arguments.choice("on", "off");
+  const bool on = arguments.take_choice("on", "off");
   return [&script, on] { script.desktop().settings.printer = on; };
 }
 
 Action year(Script& script, Arguments& arguments) {
-  const long n = arguments.number("N", 0, 9999);
+  const long n = arguments.take_number("N", 0, 9999);
   return [&script, n] { script.desktop().settings.year = static_cast<int>(n); };
 }
 
 Action program(Script& script, Arguments& arguments) {
-  const std::string folder = arguments.rest("DIR");
+  const std::string folder = arguments.take_rest("DIR");
   return [&script, folder] { script.desktop().settings.program = folder; };
 }
 
 Action tmp(Script&, Arguments& arguments) {
-  const std::string folder = arguments.rest("DIR");
+  const std::string folder = arguments.take_rest("DIR");
   return [folder] { platform::set_environment("tmp", folder); };
 }
 
 Action click(Script& script, Arguments& arguments) {
-  const Control button = arguments.control();
-  if (!is_button(button)) throw ScriptError("no button: " + std::string(control_name(button)));
+  const Control button = arguments.take_control();
+  if (!is_button(button)) throw ScriptError("no button: " + std::string(name_of(button)));
   return [&script, button] {
     require_visible(script, button);
     script.window().click(button);
@@ -57,9 +56,9 @@ Action click(Script& script, Arguments& arguments) {
 }
 
 Action check(Script& script, Arguments& arguments) {
-  const Control box = arguments.control();
-  if (!is_check_box(box)) throw ScriptError("no check box: " + std::string(control_name(box)));
-  const bool on = arguments.choice("on", "off");
+  const Control box = arguments.take_control();
+  if (!is_check_box(box)) throw ScriptError("no check box: " + std::string(name_of(box)));
+  const bool on = arguments.take_choice("on", "off");
   return [&script, box, on] {
     require_visible(script, box);
     script.window().check(box, on);
@@ -69,9 +68,9 @@ Action check(Script& script, Arguments& arguments) {
 Action level(Script& script, Arguments& arguments) {
   std::optional<int> item;
   if (arguments.next() == "none")
-    arguments.word("N");
+    arguments.take_word("N");
   else
-    item = static_cast<int>(arguments.number("N", 0, 4));
+    item = static_cast<int>(arguments.take_number("N", 0, 4));
   return [&script, item] {
     require_visible(script, Control::Niveau);
     script.window().choose_level(item);
@@ -79,11 +78,11 @@ Action level(Script& script, Arguments& arguments) {
 }
 
 Action select(Script& script, Arguments& arguments) {
-  const int row = arguments.grid_line("R");
-  const int column = arguments.grid_line("C");
+  const int row = arguments.take_grid_line("R");
+  const int column = arguments.take_grid_line("C");
   const bool block = !arguments.empty();
-  const int other_row = block ? arguments.grid_line("R2") : row;
-  const int other_column = block ? arguments.grid_line("C2") : column;
+  const int other_row = block ? arguments.take_grid_line("R2") : row;
+  const int other_column = block ? arguments.take_grid_line("C2") : column;
   return [=, &script] {
     script.window().MSF.select(row, column, other_row, other_column);
     script.window().redraw_lines();
@@ -91,14 +90,14 @@ Action select(Script& script, Arguments& arguments) {
 }
 
 Action press_key(Script& script, Arguments& arguments) {
-  const Key pressed = key_named(arguments.word("K"));
+  const Key pressed = key_named(arguments.take_word("K"));
   return [&script, pressed] { press(script.window(), pressed); };
 }
 
 AboutControl about_control(const std::string& name) {
-  const auto* found = std::ranges::find(about_controls, name, about_control_name);
+  const auto* found = std::ranges::find(about_controls, name, &AboutControlRow::name);
   if (found == std::end(about_controls)) throw ScriptError("no control of that name: " + name);
-  return *found;
+  return found->control;
 }
 
 void require_about(Script& script) {
@@ -106,7 +105,7 @@ void require_about(Script& script) {
 }
 
 Action click_about(Script& script, Arguments& arguments) {
-  const AboutControl control = about_control(arguments.word("NAME"));
+  const AboutControl control = about_control(arguments.take_word("NAME"));
   return [&script, control] {
     require_about(script);
     script.window().click_about(control);
@@ -114,7 +113,7 @@ Action click_about(Script& script, Arguments& arguments) {
 }
 
 Action press_in_about(Script& script, Arguments& arguments) {
-  key_named(arguments.word("K"));
+  key_named(arguments.take_word("K"));
   return [&script] {
     require_about(script);
     script.window().close_about();
@@ -122,26 +121,26 @@ Action press_in_about(Script& script, Arguments& arguments) {
 }
 
 Action about(Script& script, Arguments& arguments) {
-  return arguments.choice("click", "key") ? click_about(script, arguments)
-                                          : press_in_about(script, arguments);
+  return arguments.take_choice("click", "key") ? click_about(script, arguments)
+                                               : press_in_about(script, arguments);
 }
 
 Action answer(Script& script, Arguments& arguments) {
   if (arguments.next() == "file") {
-    arguments.word("file");
-    const std::string path = arguments.rest("PATH");
+    arguments.take_word("file");
+    const std::string path = arguments.take_rest("PATH");
     return [&script, path] { script.desktop().queue_file(path); };
   }
-  const Answer given = arguments.choice("yes", "no") ? Answer::yes : Answer::no;
+  const Answer given = arguments.take_choice("yes", "no") ? Answer::yes : Answer::no;
   return [&script, given] { script.desktop().queue_answer(given); };
 }
 
 Action at(Script& script, Arguments& arguments) {
-  const long step = arguments.number("N", 1, std::numeric_limits<int>::max());
+  const long step = arguments.take_number("N", 1, std::numeric_limits<int>::max());
   const Command* command = command_named(arguments.next());
   if (command && command->role == Command::Role::start)
     throw ScriptError("a search cannot start the program");
-  const Action action = script.understand(arguments.rest("COMMAND"));
+  const Action action = script.understand(arguments.take_rest("COMMAND"));
   return [&script, step, action] {
     script.schedule().add(step, [&script, action] { script.attempt(action); });
   };
@@ -155,14 +154,14 @@ CloseMode close_mode(const std::string& name) {
 }
 
 Action close(Script& script, Arguments& arguments) {
-  const CloseMode mode = close_mode(arguments.word("window, taskmanager or session"));
+  const CloseMode mode = close_mode(arguments.take_word("window, taskmanager or session"));
   return [&script, mode] {
-    if (script.window().close(mode)) throw ProgramEnd{0};
+    if (script.window().confirm_close(mode)) throw ProgramEnd{0};
   };
 }
 
 Action start(Script& script, Arguments& arguments) {
-  const std::string command_line = arguments.empty() ? "" : arguments.rest("ARGUMENTS");
+  const std::string command_line = arguments.empty() ? "" : arguments.take_rest("ARGUMENTS");
   return [&script, command_line] { script.start(command_line); };
 }
 

@@ -7,7 +7,7 @@
 
 namespace sdk {
 
-void Schedule::search_step(int depth) {
+void Schedule::step(int depth) {
   const auto running = static_cast<std::size_t>(depth);
   while (searches_.size() < running) begin_search();
   Search& search = searches_[running - 1];

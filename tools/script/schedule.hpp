@@ -24,7 +24,7 @@ class Schedule {
   }
 
   /// One step of the search at `depth`: runs what is due.
-  void search_step(int depth);
+  void step(int depth);
   /// Searches deeper than `depth` are over; what did not happen in them is dropped.
   void end_searches(int depth);
 

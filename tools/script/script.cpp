@@ -22,7 +22,7 @@ std::string_view without_comment(std::string_view line) {
 
 Script::Script(std::ostream& out, std::ostream& errors)
     : out_(out), desktop_(out, errors), about_printer_(out) {
-  desktop_.set_events([this] { schedule_.search_step(window_->searches_running); });
+  desktop_.set_events([this] { schedule_.step(window_->searches_running); });
 }
 
 void Script::run(std::string_view line) {
@@ -60,11 +60,11 @@ void Script::start(const std::string& command_line) {
 
 Action Script::understand(std::string_view text) {
   Arguments arguments(text);
-  const std::string name = arguments.word("command");
+  const std::string name = arguments.take_word("command");
   const Command* command = command_named(name);
   if (!command) throw ScriptError("unknown command: " + name);
   Action action = command->understand(*this, arguments);
-  arguments.end();
+  arguments.expect_end();
   return action;
 }
 

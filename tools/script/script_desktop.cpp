@@ -60,7 +60,7 @@ struct DrawingPrinter {
 
 const char* pointer_name(Pointer shape) { return shape == Pointer::arrow ? "arrow" : "hourglass"; }
 
-Answer ScriptDesktop::next_answer() {
+Answer ScriptDesktop::take_answer() {
   if (answers_.empty()) return Answer::no;
   const Answer answer = answers_.front();
   answers_.pop_front();
@@ -70,13 +70,13 @@ Answer ScriptDesktop::next_answer() {
 Answer ScriptDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
                                   const std::string& title) {
   const bool asks = buttons == Buttons::yes_no;
-  const Answer answer = asks ? next_answer() : Answer::ok;
+  const Answer answer = asks ? take_answer() : Answer::ok;
   out_ << "box " << icon_name(icon) << ' ' << in_quotes(title) << ' ' << in_quotes(text)
        << (asks ? " yes,no -> " : " ok -> ") << answer_name(answer) << '\n';
   return answer;
 }
 
-std::string ScriptDesktop::file_dialog(const char* kind, const std::string& filter) {
+std::string ScriptDesktop::answer_dialog(const char* kind, const std::string& filter) {
   std::string path;
   if (!files_.empty()) {
     path = std::move(files_.front());
@@ -88,11 +88,11 @@ std::string ScriptDesktop::file_dialog(const char* kind, const std::string& filt
 }
 
 std::string ScriptDesktop::open_dialog(const std::string& filter) {
-  return file_dialog("open", filter);
+  return answer_dialog("open", filter);
 }
 
 std::string ScriptDesktop::save_dialog(const std::string& filter) {
-  return file_dialog("save", filter);
+  return answer_dialog("save", filter);
 }
 
 void ScriptDesktop::set_pointer(Pointer shape) {

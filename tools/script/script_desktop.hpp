@@ -60,8 +60,8 @@ class ScriptDesktop final : public PlatformDesktop {
   void report_error(const std::string& line) override;
 
  private:
-  Answer next_answer();
-  std::string file_dialog(const char* kind, const std::string& filter);
+  Answer take_answer();
+  std::string answer_dialog(const char* kind, const std::string& filter);
 
   std::ostream& out_;
   std::ostream& errors_;

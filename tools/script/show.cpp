@@ -8,7 +8,7 @@
 #include <iterator>
 #include <ostream>
 
-#include "tools/script/control_names.hpp"
+#include "tools/script/grid_format.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/text_format.hpp"
 
@@ -23,17 +23,6 @@ std::string value_text(std::uint8_t number) { return std::to_string(number); }
 std::string value_text(Bool16 flag) { return std::to_string(flag.bits()); }
 std::string value_text(Colour colour) { return colour_text(colour); }
 std::string value_text(const std::string& text) { return in_quotes(text); }
-
-/// Nine lines, cells separated by `separator`; `cell` gives the text of (row, column), 0-based.
-template <class CellText>
-std::string square_text(const char* separator, CellText cell) {
-  std::string text;
-  for (int r = 0; r < DisplayGrid::size; ++r) {
-    for (int c = 0; c < DisplayGrid::size; ++c) text += (c ? separator : "") + cell(r, c);
-    text += '\n';
-  }
-  return text;
-}
 
 template <class T>
 std::string value_text(const Square<T>& square) {
@@ -67,33 +56,10 @@ TopicText plain(Arguments&) {
 
 // The grids.
 
-std::string cell_name(int row, int column) {
-  return 'r' + std::to_string(row + 1) + 'c' + std::to_string(column + 1);
-}
-
-std::string first_character(const std::string& text) {
-  if (text == " ") return ".";
-  return text.empty() ? "?" : from_code_page(text.substr(0, 1));
-}
-
-std::string cell_text(const DisplayCell& cell) {
-  return in_quotes(from_code_page(cell.text)) + ' ' + colour_text(cell.text_colour) + ' ' +
-         colour_text(cell.back_colour) + ' ' + std::to_string(cell.font_size) + ' ' +
-         std::to_string(cell.mark) + '\n';
-}
-
-std::string first_characters(const DisplayGrid& grid) {
-  return square_text("", [&](int r, int c) { return first_character(grid.text(r, c)); });
-}
-
-std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
-  return square_text(" ", [&](int r, int c) { return colour_text(grid.cell(r, c).*which); });
-}
-
 template <DisplayGrid Window::*grid>
 TopicText colours_of(Arguments& arguments) {
   const auto which =
-      arguments.choice("text", "back") ? &DisplayCell::text_colour : &DisplayCell::back_colour;
+      arguments.take_choice("text", "back") ? &DisplayCell::text_colour : &DisplayCell::back_colour;
   return [which](Script& script) { return colours(script.window().*grid, which); };
 }
 
@@ -102,17 +68,9 @@ TopicText grid_topic(Arguments& arguments) {
   if (arguments.empty())
     return [](Script& script) { return first_characters(script.window().*grid); };
   if (arguments.next() == "text" || arguments.next() == "back") return colours_of<grid>(arguments);
-  const int row = arguments.grid_line("R");
-  const int column = arguments.grid_line("C");
+  const int row = arguments.take_grid_line("R");
+  const int column = arguments.take_grid_line("C");
   return [=](Script& s) { return cell_text((s.window().*grid).cell(row, column)); };
-}
-
-std::string marked_cells(const DisplayGrid& grid, int mark) {
-  std::string cells;
-  for (int r = 0; r < DisplayGrid::size; ++r)
-    for (int c = 0; c < DisplayGrid::size; ++c)
-      if (grid.cell(r, c).mark == mark) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
-  return std::to_string(mark) + '=' + cells;
 }
 
 std::string marks(Script& script) {
@@ -137,11 +95,9 @@ std::string selection(Script& script) {
 
 std::string visible(Script& script) {
   std::string names;
-  for (int i = 0; i < control_count; ++i) {
-    const auto control = static_cast<Control>(i);
-    if (script.window().visible(control))
-      names += (names.empty() ? "" : " ") + std::string(control_name(control));
-  }
+  for (const ControlRow& row : all_controls)
+    if (script.window().visible(row.control))
+      names += (names.empty() ? "" : " ") + std::string(row.name);
   return names;
 }
 
@@ -152,12 +108,12 @@ std::string caption_of(Script& script) {
 
 template <std::string ControlState::*text>
 TopicText control_topic(Arguments& arguments) {
-  const Control control = arguments.control();
+  const Control control = arguments.take_control();
   return [control](Script& s) { return in_quotes(s.window().control(control).*text) + '\n'; };
 }
 
 TopicText message(Arguments& arguments) {
-  const auto i = static_cast<std::size_t>(arguments.number("I", 0, 34));
+  const auto i = static_cast<std::size_t>(arguments.take_number("I", 0, 34));
   return [i](Script&) { return in_quotes(globals.Messages[i]) + '\n'; };
 }
 
@@ -194,10 +150,10 @@ TopicText box_lines_topic(Arguments&) {
 std::string title(Script& script) { return in_quotes(script.window().title()); }
 std::string clipboard(Script& script) { return in_quotes(script.desktop().clipboard()); }
 std::string pointer(Script& script) { return pointer_name(script.desktop().pointer()); }
-std::string focus(Script& script) { return std::string(control_name(script.window().focus())); }
+std::string focus(Script& script) { return std::string(name_of(script.window().focus())); }
 
 TopicText file(Arguments& arguments) {
-  const std::string path = arguments.rest("PATH");
+  const std::string path = arguments.take_rest("PATH");
   return [path](Script&) {
     std::ifstream stream(path, std::ios::binary);
     if (!stream || !std::filesystem::is_regular_file(path))
@@ -262,7 +218,7 @@ constexpr Topic table[] = {
 std::span<const Topic> topics() { return table; }
 
 Action show(Script& script, Arguments& arguments) {
-  const std::string name = arguments.word("WHAT");
+  const std::string name = arguments.take_word("WHAT");
   const auto* topic = std::ranges::find(table, name, &Topic::name);
   if (topic == std::end(table)) throw ScriptError("nothing of that name to show: " + name);
   const TopicText text = topic->understand(arguments);

@@ -8,9 +8,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "game/globals.hpp"
+#include "game/message.hpp"
 #include "ui/qt/about_label.hpp"
 #include "ui/qt/accessibility.hpp"
+#include "ui/qt/object_names.hpp"
 
 namespace sdk {
 
@@ -28,7 +29,7 @@ QVBoxLayout* make_rows() {
 
 AboutDialog::AboutDialog(const About& about, QWidget* parent) : QDialog(parent), about_(about) {
   setObjectName("about");
-  setWindowTitle(QString::fromStdString(globals.Messages[6]));
+  setWindowTitle(QString::fromStdString(text_of(Message::about)));
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(20, 20, 28, 16);
   columns->setSpacing(28);
@@ -39,8 +40,9 @@ AboutDialog::AboutDialog(const About& about, QWidget* parent) : QDialog(parent),
 
 QLayout* AboutDialog::make_picture() {
   QVBoxLayout* rows = make_rows();
-  auto* picture = put(new PictureLabel, AboutControl::Picture, "Picture");
-  auto* caption = make_text(AboutControl::Picture, "PictureCaption", small);
+  auto* picture = put(new PictureLabel, AboutControl::Picture);
+  auto* caption = make_text(AboutControl::Picture, small);
+  caption->setObjectName("PictureCaption");
   picture->setAccessibleName(caption->text());
   caption->setAlignment(Qt::AlignHCenter);
   rows->addWidget(picture);
@@ -51,23 +53,23 @@ QLayout* AboutDialog::make_picture() {
 QLayout* AboutDialog::make_credits() {
   QVBoxLayout* rows = make_rows();
   rows->addStretch(2);
-  rows->addWidget(make_text(AboutControl::lblVersion, "lblVersion", large));
+  rows->addWidget(make_text(AboutControl::lblVersion, large));
   rows->addSpacing(24);
-  rows->addWidget(make_text(AboutControl::Label2, "Label2", small));
+  rows->addWidget(make_text(AboutControl::Label2, small));
   rows->addWidget(make_link(), 0, Qt::AlignLeft);
   rows->addStretch(3);
-  rows->addWidget(make_text(AboutControl::lblCopyright, "lblCopyright", small));
+  rows->addWidget(make_text(AboutControl::lblCopyright, small));
   return rows;
 }
 
-AboutLabel* AboutDialog::put(AboutLabel* label, AboutControl control, const char* name) {
-  label->setObjectName(name);
+AboutLabel* AboutDialog::put(AboutLabel* label, AboutControl control) {
+  name_after(*label, control);
   connect(label, &AboutLabel::clicked, this, [this, control] { emit clicked(control); });
   return label;
 }
 
-AboutLabel* AboutDialog::make_text(AboutControl control, const char* name, int points) {
-  auto* label = put(new AboutLabel, control, name);
+AboutLabel* AboutDialog::make_text(AboutControl control, int points) {
+  auto* label = put(new AboutLabel, control);
   write(*label, control, QFont("Arial", points));
   return label;
 }
@@ -78,7 +80,7 @@ void AboutDialog::write(AboutLabel& label, AboutControl control, const QFont& fo
 }
 
 AboutLabel* AboutDialog::make_link() {
-  auto* link = put(new LinkLabel, AboutControl::Label1, "Label1");
+  auto* link = put(new LinkLabel, AboutControl::Label1);
   QFont underlined("Arial", normal);
   underlined.setUnderline(true);
   write(*link, AboutControl::Label1, underlined);

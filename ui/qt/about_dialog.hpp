@@ -38,8 +38,8 @@ class AboutDialog : public QDialog {
   QLayout* make_picture();
   QLayout* make_credits();
   /// `label` as the widget of that control.
-  AboutLabel* put(AboutLabel* label, AboutControl control, const char* name);
-  AboutLabel* make_text(AboutControl control, const char* name, int points);
+  AboutLabel* put(AboutLabel* label, AboutControl control);
+  AboutLabel* make_text(AboutControl control, int points);
   /// `label` with the text of its control.
   void write(AboutLabel& label, AboutControl control, const QFont& font);
   AboutLabel* make_link();

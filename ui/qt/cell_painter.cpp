@@ -109,11 +109,13 @@ void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
   paint_text(painter, square, cell, drawn_text_colour(cell, grid_font_size));
 }
 
-void paint_puzzle(QPainter& painter, const DisplayGrid& puzzle) {
-  for (int r = 0; r < DisplayGrid::size; ++r)
-    for (int c = 0; c < DisplayGrid::size; ++c)
-      paint_cell(painter, QRect(c * cell_side, r * cell_side, cell_side, cell_side),
-                 puzzle.cell(r, c), puzzle_font_size);
+void paint_puzzle(QPainter& painter, const std::vector<DisplayCell>& cells) {
+  QRect square(0, 0, cell_side, cell_side);
+  for (const DisplayCell& cell : cells) {
+    paint_cell(painter, square, cell, puzzle_font_size);
+    square.translate(cell_side, 0);
+    if (square.left() == DisplayGrid::size * cell_side) square.moveTo(0, square.top() + cell_side);
+  }
 }
 
 }  // namespace sdk

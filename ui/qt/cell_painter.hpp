@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QString>
+#include <vector>
 
 #include "screen/display_grid.hpp"
 
@@ -37,7 +38,7 @@ QColor drawn_text_colour(const DisplayCell& cell, int grid_font_size);
 void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
                 int grid_font_size);
 
-/// Paints all 81 cells of a puzzle with its top left corner at the origin.
-void paint_puzzle(QPainter& painter, const DisplayGrid& puzzle);
+/// Paints the 81 cells of a puzzle, given row by row, with its top left corner at the origin.
+void paint_puzzle(QPainter& painter, const std::vector<DisplayCell>& cells);
 
 }  // namespace sdk

@@ -12,6 +12,7 @@
 
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/icons.hpp"
+#include "ui/qt/object_names.hpp"
 
 namespace sdk {
 
@@ -19,24 +20,18 @@ namespace {
 
 struct ButtonLook {
   Control control;
-  const char* name;
   const char* icon;
   bool starts_group;
 };
 
 /// From left to right: the puzzle and its file, help with solving it, the program.
 constexpr ButtonLook button_looks[] = {
-    {Control::Command1, "Command1", "new", false},
-    {Control::Command6, "Command6", "load", false},
-    {Control::sauve, "sauve", "save", false},
-    {Control::Command4, "Command4", "print", false},
-    {Control::Command8, "Command8", "hint", true},
-    {Control::Command7, "Command7", "verify", false},
-    {Control::Bouton_GO, "Bouton_GO", "solve", false},
-    {Control::Command2, "Command2", "clear", false},
-    {Control::aide, "aide", "help", true},
-    {Control::Command5, "Command5", "about", false},
-    {Control::Command3, "Command3", "quit", false},
+    {Control::Command1, "new", false},    {Control::Command6, "load", false},
+    {Control::sauve, "save", false},      {Control::Command4, "print", false},
+    {Control::Command8, "hint", true},    {Control::Command7, "verify", false},
+    {Control::Bouton_GO, "solve", false}, {Control::Command2, "clear", false},
+    {Control::aide, "help", true},        {Control::Command5, "about", false},
+    {Control::Command3, "quit", false},
 };
 
 constexpr int icon_side = 28;
@@ -50,7 +45,7 @@ QString name_for_player(const MainWindow& window, Control button) {
 }  // namespace
 
 CommandBar::CommandBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this)) {
-  title_->setObjectName("Label3");
+  name_after(*title_, Control::Label3);
   title_->setTextFormat(Qt::PlainText);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -63,14 +58,14 @@ QLayout* CommandBar::make_buttons() {
   row->setSpacing(4);
   for (const ButtonLook& look : button_looks) {
     if (look.starts_group) row->addStretch();
-    row->addWidget(make_button(look.control, look.name, look.icon));
+    row->addWidget(make_button(look.control, look.icon));
   }
   return row;
 }
 
-QToolButton* CommandBar::make_button(Control control, const char* name, const char* icon) {
+QToolButton* CommandBar::make_button(Control control, const char* icon) {
   auto* button = new QToolButton(this);
-  button->setObjectName(name);
+  name_after(*button, control);
   button->setIcon(button_icon(icon));
   button->setIconSize({icon_side, icon_side});
   button->setFixedSize(button_side, button_side);

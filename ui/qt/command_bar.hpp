@@ -37,7 +37,7 @@ class CommandBar : public QWidget {
   };
 
   QLayout* make_buttons();
-  QToolButton* make_button(Control control, const char* name, const char* icon);
+  QToolButton* make_button(Control control, const char* icon);
 
   QLabel* title_;
   std::vector<Button> buttons_;

@@ -12,7 +12,8 @@ namespace sdk {
 /// then, the more rarely the faster the questions come.
 class EventPump {
  public:
-  bool is_due() { return --questions_left_ <= 0 && look_at_clock(); }
+  /// Counts the question and answers whether events are due.
+  bool poll() { return --questions_left_ <= 0 && look_at_clock(); }
 
  private:
   using Clock = std::chrono::steady_clock;

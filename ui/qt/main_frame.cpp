@@ -12,6 +12,7 @@
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/key_codes.hpp"
+#include "ui/qt/object_names.hpp"
 #include "ui/qt/pixels.hpp"
 
 namespace sdk {
@@ -20,17 +21,17 @@ namespace {
 
 constexpr int band_margin = 12;
 
-QFrame* make_frame(const char* name, QWidget* parent) {
+QFrame* make_frame(Control control, QWidget* parent) {
   auto* frame = new QFrame(parent);
-  frame->setObjectName(name);
+  name_after(*frame, control);
   frame->setFrameStyle(QFrame::Box | QFrame::Plain);
   frame->setLineWidth(2);
   return frame;
 }
 
-GridView* make_grid(const char* name, DisplayGrid& grid, GridLook look, QWidget* parent) {
+GridView* make_grid(Control control, DisplayGrid& grid, GridLook look, QWidget* parent) {
   auto* view = new GridView(grid, look, parent);
-  view->setObjectName(name);
+  name_after(*view, control);
   return view;
 }
 
@@ -41,10 +42,10 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
     : window_(window),
       guard_(guard),
       commands_(new CommandBar(this)),
-      rect_(make_frame("rect", this)),
-      msf_(make_grid("MSF", window.MSF, {puzzle_font_size, true}, this)),
-      rect2_(make_frame("rect2", this)),
-      msr_(make_grid("MSR", window.MSR, {candidates_font_size, false}, this)),
+      rect_(make_frame(Control::rect, this)),
+      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true}, this)),
+      rect2_(make_frame(Control::rect2, this)),
+      msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false}, this)),
       options_(new OptionBar(this)),
       lines_(new LineOverlay(window, this)),
       update_(*this, [this] { show_state(); }) {
@@ -105,7 +106,7 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   event->ignore();
   const CloseMode mode = session_ends_ ? CloseMode::session_end : CloseMode::window_command;
   guard_.run([&] {
-    if (window_.close(mode)) throw ProgramEnd{0};
+    if (window_.confirm_close(mode)) throw ProgramEnd{0};
   });
 }
 

@@ -12,12 +12,11 @@
 #include <QVBoxLayout>
 
 #include "ui/qt/accessibility.hpp"
+#include "ui/qt/object_names.hpp"
 
 namespace sdk {
 
 namespace {
-
-constexpr std::size_t hint_message = 21;
 
 QStringList names_of(const std::vector<LevelItem>& levels) {
   QStringList names;
@@ -45,9 +44,8 @@ QColor check_box_inside(const QPalette& palette) {
   return dark ? window.lighter(200) : palette.color(QPalette::Base);
 }
 
-QLabel* make_label(const char* name, QWidget* parent) {
+QLabel* make_label(QWidget* parent) {
   auto* label = new QLabel(parent);
-  label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   return label;
 }
@@ -60,7 +58,8 @@ OptionBar::OptionBar(QWidget* parent) : QWidget(parent) {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->addLayout(make_boxes());
   rows->addLayout(make_level_row());
-  hint_ = make_label("Astuce", this);
+  hint_ = make_label(this);
+  hint_->setObjectName("Astuce");
   rows->addWidget(hint_);
   take_colours();
 }
@@ -80,16 +79,16 @@ void OptionBar::changeEvent(QEvent* event) {
 QLayout* OptionBar::make_boxes() {
   auto* row = new QHBoxLayout;
   row->setSpacing(20);
-  row->addWidget(make_box(Control::Check3, "Check3"));
-  row->addWidget(make_box(Control::Check1, "Check1"));
-  row->addWidget(make_box(Control::Check2, "Check2"));
+  row->addWidget(make_box(Control::Check3));
+  row->addWidget(make_box(Control::Check1));
+  row->addWidget(make_box(Control::Check2));
   row->addStretch();
   return row;
 }
 
-QCheckBox* OptionBar::make_box(Control control, const char* name) {
+QCheckBox* OptionBar::make_box(Control control) {
   auto* box = new QCheckBox(this);
-  box->setObjectName(name);
+  name_after(*box, control);
   box->setFocusPolicy(Qt::TabFocus);
   connect(box, &QCheckBox::toggled, this, [this, control](bool on) { emit ticked(control, on); });
   boxes_.push_back({control, box});
@@ -98,8 +97,9 @@ QCheckBox* OptionBar::make_box(Control control, const char* name) {
 
 QLayout* OptionBar::make_level_row() {
   levels_ = new QComboBox(this);
-  count_ = make_label("Label", this);
-  levels_->setObjectName("Niveau");
+  count_ = make_label(this);
+  name_after(*levels_, Control::Niveau);
+  name_after(*count_, Control::Label);
   levels_->setFocusPolicy(Qt::TabFocus);
   levels_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   connect(levels_, &QComboBox::activated, this, &OptionBar::level_chosen);
@@ -116,7 +116,7 @@ void OptionBar::show_state(const MainWindow& window) {
   show_levels(window);
   count_->setText(QString::fromStdString(window.control(Control::Label).caption));
   count_->setVisible(window.visible(Control::Label));
-  hint_->setText(QString::fromStdString(globals.Messages[hint_message]));
+  hint_->setText(QString::fromStdString(text_of(Message::language_hint)));
 }
 
 void OptionBar::show_box(const MainWindow& window, const Box& box) {

@@ -39,7 +39,7 @@ class OptionBar : public QWidget {
   };
 
   QLayout* make_boxes();
-  QCheckBox* make_box(Control control, const char* name);
+  QCheckBox* make_box(Control control);
   QLayout* make_level_row();
   void take_colours();
   void show_box(const MainWindow& window, const Box& box);

@@ -19,7 +19,6 @@ constexpr int twips_per_point = 20;
 /// Paints each kind of drawing; the painter's unit is the twip.
 struct DrawingPainter {
   QPainter& painter;
-  const DisplayGrid& puzzle;
 
   void operator()(const TextDrawing& text) const {
     QFont font(QString::fromStdString(text.font));
@@ -35,7 +34,7 @@ struct DrawingPainter {
     painter.save();
     painter.translate(picture.x, picture.y);
     painter.scale(picture.width / side, picture.height / side);
-    paint_puzzle(painter, puzzle);
+    paint_puzzle(painter, picture.cells);
     painter.restore();
   }
 
@@ -47,15 +46,15 @@ struct DrawingPainter {
 
 }  // namespace
 
-void paint_drawings(QPainter& painter, const Page& page, const DisplayGrid& puzzle) {
-  for (const Drawing& drawing : page) std::visit(DrawingPainter{painter, puzzle}, drawing);
+void paint_drawings(QPainter& painter, const Page& page) {
+  for (const Drawing& drawing : page) std::visit(DrawingPainter{painter}, drawing);
 }
 
-bool paint_page(QPagedPaintDevice& device, const Page& page, const DisplayGrid& puzzle) {
+bool paint_page(QPagedPaintDevice& device, const Page& page) {
   QPainter painter;
   if (!painter.begin(&device)) return false;
   painter.scale(device.logicalDpiX() / twips_per_inch, device.logicalDpiY() / twips_per_inch);
-  paint_drawings(painter, page, puzzle);
+  paint_drawings(painter, page);
   return painter.end();
 }
 

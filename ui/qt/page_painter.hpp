@@ -4,7 +4,6 @@
 /// A page of the core on paper.
 #pragma once
 
-#include "screen/display_grid.hpp"
 #include "screen/drawing.hpp"
 
 class QPagedPaintDevice;
@@ -12,11 +11,11 @@ class QPainter;
 
 namespace sdk {
 
-/// Paints `page` in order, with `puzzle` as its picture. The painter's unit must be the twip.
-void paint_drawings(QPainter& painter, const Page& page, const DisplayGrid& puzzle);
+/// Paints `page` in order. The painter's unit must be the twip.
+void paint_drawings(QPainter& painter, const Page& page);
 
-/// Paints `page` on the printable area of the device's current page, with `puzzle` as its picture.
-/// False when the device refuses to be painted on.
-bool paint_page(QPagedPaintDevice& device, const Page& page, const DisplayGrid& puzzle);
+/// Paints `page` on the printable area of the device's current page. False when the device refuses
+/// to be painted on.
+bool paint_page(QPagedPaintDevice& device, const Page& page);
 
 }  // namespace sdk

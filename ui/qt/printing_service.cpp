@@ -9,7 +9,6 @@
 #include <memory>
 #include <system_error>
 
-#include "game/window.hpp"
 #include "screen/errors.hpp"
 #include "ui/qt/page_painter.hpp"
 
@@ -40,7 +39,7 @@ PageSize default_printer_page() {
 
 void print_on_default_printer(const Page& page) {
   const auto printer = default_printer();
-  const bool painted = paint_page(*printer, page, sudoku().MSF);
+  const bool painted = paint_page(*printer, page);
   if (!painted || printer->printerState() == QPrinter::Error)
     throw RuntimeError(printer->printerName().toStdString(), system_words(EIO));
 }

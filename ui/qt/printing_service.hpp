@@ -11,8 +11,8 @@ namespace sdk {
 /// The printable area of its portrait page. Throws RuntimeError when there is no printer.
 PageSize default_printer_page();
 
-/// Prints one copy of one portrait page, with the puzzle of sudoku() as its picture. Throws
-/// RuntimeError when there is no printer or it refuses.
+/// Prints one copy of one portrait page. Throws RuntimeError when there is no printer or it
+/// refuses.
 void print_on_default_printer(const Page& page);
 
 }  // namespace sdk

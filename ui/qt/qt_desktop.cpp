@@ -88,7 +88,7 @@ void QtDesktop::set_pointer(Pointer shape) {
 }
 
 void QtDesktop::let_events_run() {
-  if (!pump_.is_due()) return;
+  if (!pump_.poll()) return;
   QCoreApplication::processEvents();
   guard_.rethrow();
 }

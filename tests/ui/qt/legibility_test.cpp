@@ -242,7 +242,7 @@ class LegibilityTest : public QObject {
     play_->window.MSF.set_text_colour(colour::red);
     QImage page(9 * cell_side, 9 * cell_side, QImage::Format_RGB32);
     QPainter painter(&page);
-    paint_puzzle(painter, play_->window.MSF);
+    paint_puzzle(painter, play_->window.MSF.cells());
     QVERIFY(is_underlined(page.copy(8 * cell_side, 8 * cell_side, cell_side, cell_side)));
     QVERIFY(!is_underlined(page.copy(0, 0, cell_side, cell_side)));
   }

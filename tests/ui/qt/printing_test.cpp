@@ -19,12 +19,12 @@ constexpr PageSize a4{11906, 16838};
 constexpr double twips_per_pixel_here = 10;
 
 /// The page at a tenth of a pixel a twip.
-QImage painted(const Page& page, const DisplayGrid& puzzle) {
+QImage painted(const Page& page) {
   QImage image(1191, 1684, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.scale(1 / twips_per_pixel_here, 1 / twips_per_pixel_here);
-  paint_drawings(painter, page, puzzle);
+  paint_drawings(painter, page);
   return image;
 }
 
@@ -50,7 +50,7 @@ class PrintingTest : public QObject {
   void cleanup() { play_.reset(); }
 
   void the_page_shows_title_puzzle_lines_and_credit() {
-    const QImage image = painted(page(), play_->window.MSF);
+    const QImage image = painted(page());
     const double left = (a4.width - 10035) / 2, top = (a4.height - 10170) / 2;
     QVERIFY(has_ink(image, QRect(left, top - 600, 3000, 400)));
     QVERIFY(has_ink(image, QRect(left, top + 7020 + 100, 3000, 200)));
@@ -75,7 +75,7 @@ class PrintingTest : public QObject {
     file.open(QIODevice::WriteOnly);
     QPdfWriter writer(&file);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    QVERIFY(paint_page(writer, page(), play_->window.MSF));
+    QVERIFY(paint_page(writer, page()));
     QVERIFY(file.data().startsWith("%PDF"));
     QCOMPARE(file.data().count("/Type /Page\n"), 1);
     QVERIFY(writer.width() < writer.height());
@@ -83,12 +83,13 @@ class PrintingTest : public QObject {
 
   void a_device_that_refuses_is_reported() {
     QPdfWriter writer("/nonexistent/folder/page.pdf");
-    QVERIFY(!paint_page(writer, page(), play_->window.MSF));
+    QVERIFY(!paint_page(writer, page()));
   }
 
  private:
   Page page() const {
-    return printed_page(a4, play_->window.layout(), globals.TitreFenetre, globals.Messages[15]);
+    return printed_page(a4, play_->window.layout(), play_->window.MSF, globals.TitreFenetre,
+                        text_of(Message::credit));
   }
 
   std::optional<Play> play_;

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+/// The three rules of the game in one question.
+#pragma once
+
+#include <cstdint>
+
+#include "board/cell_set.hpp"
+#include "board/square.hpp"
+
+namespace sdk {
+
+/// Whether the value of a cell stands in a cell that it sees too. An empty cell's 0 is a value like
+/// any other.
+constexpr bool has_clash(const Square<std::int16_t>& grid, Cell cell) {
+  for (const int number : peers_of(cell)) {
+    const Cell peer = cell_at(number);
+    if (grid(peer.row, peer.column) == grid(cell.row, cell.column)) return true;
+  }
+  return false;
+}
+
+}  // namespace sdk

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "tools/script/grid_format.hpp"
+
+#include "game/window.hpp"
+#include "tools/script/text_format.hpp"
+
+namespace sdk {
+
+std::string cell_name(int row, int column) {
+  return 'r' + std::to_string(row + 1) + 'c' + std::to_string(column + 1);
+}
+
+namespace {
+
+std::string first_character(const std::string& text) {
+  if (text == " ") return ".";
+  return text.empty() ? "?" : from_code_page(text.substr(0, 1));
+}
+
+}  // namespace
+
+std::string cell_text(const DisplayCell& cell) {
+  return in_quotes(from_code_page(cell.text)) + ' ' + colour_text(cell.text_colour) + ' ' +
+         colour_text(cell.back_colour) + ' ' + std::to_string(cell.font_size) + ' ' +
+         std::to_string(cell.mark) + '\n';
+}
+
+std::string first_characters(const DisplayGrid& grid) {
+  return square_text("", [&](int r, int c) { return first_character(grid.text(r, c)); });
+}
+
+std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
+  return square_text(" ", [&](int r, int c) { return colour_text(grid.cell(r, c).*which); });
+}
+
+std::string marked_cells(const DisplayGrid& grid, int mark) {
+  std::string cells;
+  for (int r = 0; r < DisplayGrid::size; ++r)
+    for (int c = 0; c < DisplayGrid::size; ++c)
+      if (grid.cell(r, c).mark == mark) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
+  return std::to_string(mark) + '=' + cells;
+}
+
+}  // namespace sdk
