@@ -15,12 +15,13 @@
 #include <vector>
 
 #include "board/grid_text.hpp"
-#include "pas_a_pas/order.hpp"
-#include "pas_a_pas/tables.hpp"
+#include "files/platform_desktop.hpp"
 #include "puzzles/stock/entry_text.hpp"
-#include "tests/pas_a_pas/puzzle_generator.hpp"
+#include "screen/errors.hpp"
+#include "tests/support/puzzle_generator.hpp"
 #include "tests/support/solution_counter.hpp"
-#include "tools/walk/walk.hpp"
+#include "tools/walk/play.hpp"
+#include "ui/main_window.hpp"
 
 namespace sdk::bench {
 namespace {
@@ -61,34 +62,41 @@ std::vector<Puzzle> list_named(const std::string& name) {
 
 // A game that plays them
 
-/// Answers every offer alike.
-class AnsweringDesktop : public YesDesktop {
+/// Answers every offer alike, and has nothing else of a machine.
+class AnsweringDesktop : public PlatformDesktop {
  public:
   Answer answer = Answer::yes;
 
   Answer message_box(const std::string&, Icon, Buttons buttons, const std::string&) override {
     return buttons == Buttons::yes_no ? answer : Answer::ok;
   }
-};
-
-struct Placement {
-  Cell cell;
-  int digit;
+  std::string open_dialog(const std::string&) override { return ""; }
+  std::string save_dialog(const std::string&) override { return ""; }
+  void set_pointer(Pointer) override {}
+  void let_events_run() override {}
+  void set_clipboard(const std::string&) override {}
+  void open_document(const std::string&) override {}
+  PageSize printer_page() override { throw RuntimeError("printer", "there is none"); }
+  void print(const Page&) override {}
+  std::filesystem::path data_folder() override { throw RuntimeError("data folder", "none"); }
 };
 
 /// What happened on one puzzle.
-class Record : public SolverObserver {
- public:
+struct Record {
   std::vector<Placement> offers;
   std::map<int, int> firings;  ///< by place
-  RunEnd end{};
-
-  void tried(const Technique& technique, bool changed) override {
-    firings[technique.place] += changed;
-  }
-  void offered(Single, Cell cell, int digit) override { offers.push_back({cell, digit}); }
-  void ended(RunEnd how) override { end = how; }
+  EventKind end{};
 };
+
+Record walk(const Puzzle& puzzle) {
+  Record record;
+  play(puzzle_of(puzzle), [&](const Event& event) {
+    if (event.kind == EventKind::removal) ++record.firings[event.deduction.technique->place];
+    if (event.kind == EventKind::offer) record.offers.push_back(*event.deduction.placement);
+    record.end = event.kind;
+  });
+  return record;
+}
 
 class Game {
  public:
@@ -106,17 +114,9 @@ class Game {
           static_cast<char>('0' + placement.digit));
   }
   /// Asks for a hint; with Yes it goes on to the end.
-  void hint(Answer answer, SolverObserver* observer = nullptr) {
+  void hint(Answer answer) {
     desktop_.answer = answer;
-    solver.observer = observer;
     window_.click(Control::Command8);
-    solver.observer = nullptr;
-  }
-  Record walk(const Puzzle& puzzle) {
-    Record record;
-    show(puzzle);
-    hint(Answer::yes, &record);
-    return record;
   }
 
  private:
@@ -150,7 +150,7 @@ struct Times {
 
 void measure(Game& game, const Puzzle& puzzle, Times& times) {
   const auto show = [&] { game.show(puzzle); };
-  const std::vector<Placement> offers = game.walk(puzzle).offers;
+  const std::vector<Placement> offers = walk(puzzle).offers;
   times.walks.push_back(shortest_time(show, [&] { game.hint(Answer::yes); }));
   show();
   for (const Placement offer : offers) {
@@ -185,7 +185,7 @@ void print_times(const std::string& name) {
 /// Summed over the walks of a list.
 struct Counts {
   std::map<int, int> firings, walks_with;  ///< by place
-  std::map<RunEnd, int> ends;
+  std::map<EventKind, int> ends;
   int walks = 0, offers = 0, wrong_walks = 0;
 };
 
@@ -210,19 +210,18 @@ void count(const Record& record, const Puzzle& puzzle, Counts& counts) {
 
 void print_counts(const std::string& name, Counts& counts) {
   std::printf("%s: %d walks, %d offers\n", name.c_str(), counts.walks, counts.offers);
-  for (const Technique& technique : technique_order)
+  for (const Technique& technique : techniques)
     std::printf("  %2d %-28s %6d times in %5d walks\n", technique.place,
                 std::string(technique.name).c_str(), counts.firings[technique.place],
                 counts.walks_with[technique.place]);
-  std::printf("  completed %d, exhausted %d, dead %d\n", counts.ends[RunEnd::completed],
-              counts.ends[RunEnd::exhausted], counts.ends[RunEnd::dead]);
+  std::printf("  completed %d, exhausted %d, dead %d\n", counts.ends[EventKind::completed],
+              counts.ends[EventKind::exhausted], counts.ends[EventKind::dead]);
   std::printf("  walks that offer a digit which is not in the solution: %d\n", counts.wrong_walks);
 }
 
 void print_table(const std::string& name) {
-  Game game;
   Counts counts;
-  for (const Puzzle& puzzle : list_named(name)) count(game.walk(puzzle), puzzle, counts);
+  for (const Puzzle& puzzle : list_named(name)) count(walk(puzzle), puzzle, counts);
   print_counts(name, counts);
 }
 

@@ -7,6 +7,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <initializer_list>
 
 #include "board/cells.hpp"
 
@@ -35,6 +36,9 @@ class CellSet {
   };
 
   constexpr CellSet() = default;
+  constexpr CellSet(std::initializer_list<int> cells) {
+    for (const int cell : cells) insert(cell);
+  }
 
   constexpr bool contains(int cell) const { return (word(cell) >> (cell & 63) & 1) != 0; }
   constexpr bool contains(Cell cell) const { return contains(cell.number()); }
@@ -51,18 +55,20 @@ class CellSet {
 
   constexpr bool operator==(const CellSet&) const = default;
   friend constexpr CellSet operator&(const CellSet& a, const CellSet& b) {
-    return CellSet({a.words_[0] & b.words_[0], a.words_[1] & b.words_[1]});
+    return CellSet(Words{a.words_[0] & b.words_[0], a.words_[1] & b.words_[1]});
   }
   friend constexpr CellSet operator|(const CellSet& a, const CellSet& b) {
-    return CellSet({a.words_[0] | b.words_[0], a.words_[1] | b.words_[1]});
+    return CellSet(Words{a.words_[0] | b.words_[0], a.words_[1] | b.words_[1]});
   }
+  constexpr CellSet& operator|=(const CellSet& other) { return *this = *this | other; }
+  constexpr CellSet& operator&=(const CellSet& other) { return *this = *this & other; }
   /// What is in exactly one of the two.
   friend constexpr CellSet operator^(const CellSet& a, const CellSet& b) {
-    return CellSet({a.words_[0] ^ b.words_[0], a.words_[1] ^ b.words_[1]});
+    return CellSet(Words{a.words_[0] ^ b.words_[0], a.words_[1] ^ b.words_[1]});
   }
   /// What is in a and not in b.
   friend constexpr CellSet operator-(const CellSet& a, const CellSet& b) {
-    return CellSet({a.words_[0] & ~b.words_[0], a.words_[1] & ~b.words_[1]});
+    return CellSet(Words{a.words_[0] & ~b.words_[0], a.words_[1] & ~b.words_[1]});
   }
 
  private:

@@ -82,6 +82,12 @@ inline constexpr std::array<Unit, 27> all_units = [] {
   return units;
 }();
 
+/// The row, the column and the box of a cell.
+constexpr std::array<Unit, 3> units_of(Cell cell) {
+  return {
+      {{UnitKind::row, cell.row}, {UnitKind::column, cell.column}, {UnitKind::box, cell.box()}}};
+}
+
 /// Columns for rows, rows for columns.
 constexpr UnitKind crossing(UnitKind line) {
   return line == UnitKind::row ? UnitKind::column : UnitKind::row;

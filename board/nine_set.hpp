@@ -4,11 +4,25 @@
 /// A set of numbers 1..9: the digits of a cell, or the places of a digit in a unit.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 
 namespace sdk {
+
+namespace nine_set_detail {
+
+/// How many bits the numbers 0..511 have: a look-up, since not every processor counts bits.
+inline constexpr std::array<std::uint8_t, 512> bit_counts = [] {
+  std::array<std::uint8_t, 512> counts{};
+  for (unsigned n = 0; n < counts.size(); ++n)
+    counts[n] = static_cast<std::uint8_t>(std::popcount(n));
+  return counts;
+}();
+
+}  // namespace nine_set_detail
 
 /// Range-for visits the numbers in ascending order. 0 is in no set.
 class NineSet {
@@ -36,14 +50,14 @@ class NineSet {
   constexpr bool contains(int n) const { return (bits_ >> n & 1) != 0; }
   constexpr bool contains_all(NineSet other) const { return (other.bits_ & ~bits_) == 0; }
   constexpr bool empty() const { return bits_ == 0; }
-  constexpr int count() const { return std::popcount(bits_); }
+  constexpr int count() const { return nine_set_detail::bit_counts[index()]; }
   /// The smallest number; the set must not be empty.
   constexpr int first() const { return std::countr_zero(bits_); }
   /// Below 512 and different for every set: an index for tables of all sets.
   constexpr std::size_t index() const { return bits_ >> 1; }
 
-  constexpr void insert(int n) { bits_ |= 1u << n; }
-  constexpr void erase(int n) { bits_ &= ~(1u << n); }
+  constexpr void insert(int n) { bits_ |= static_cast<std::uint16_t>(1u << n); }
+  constexpr void erase(int n) { bits_ &= static_cast<std::uint16_t>(~(1u << n)); }
 
   constexpr Iterator begin() const { return Iterator(bits_); }
   constexpr Iterator end() const { return Iterator(0); }
@@ -51,13 +65,15 @@ class NineSet {
   constexpr bool operator==(const NineSet&) const = default;
   friend constexpr NineSet operator&(NineSet a, NineSet b) { return NineSet(a.bits_ & b.bits_); }
   friend constexpr NineSet operator|(NineSet a, NineSet b) { return NineSet(a.bits_ | b.bits_); }
+  constexpr NineSet& operator|=(NineSet other) { return *this = *this | other; }
+  constexpr NineSet& operator&=(NineSet other) { return *this = *this & other; }
   /// What is in a and not in b.
   friend constexpr NineSet operator-(NineSet a, NineSet b) { return NineSet(a.bits_ & ~b.bits_); }
 
  private:
-  constexpr explicit NineSet(unsigned bits) : bits_(bits) {}
+  constexpr explicit NineSet(unsigned bits) : bits_(static_cast<std::uint16_t>(bits)) {}
 
-  unsigned bits_ = 0;  ///< bit n stands for the number n
+  std::uint16_t bits_ = 0;  ///< bit n stands for the number n
 };
 
 }  // namespace sdk

@@ -3,90 +3,84 @@
 
 #include "pas_a_pas/driver.hpp"
 
-#include <optional>
 #include <utility>
 
 #include "board/grid_text.hpp"
 #include "game/window.hpp"
-#include "pas_a_pas/helpers.hpp"
-#include "pas_a_pas/order.hpp"
 #include "pas_a_pas/singles.hpp"
+#include "pas_a_pas/tables.hpp"
+#include "pas_a_pas/techniques.hpp"
 #include "pas_a_pas/view.hpp"
 
 namespace sdk {
 
+namespace {
+
+Square<std::int16_t> displayed_values() {
+  const DisplayGrid& grid = sudoku().MSF;
+  Square<std::int16_t> values;
+  for (int row = 1; row <= 9; ++row)
+    for (int column = 1; column <= 9; ++column)
+      values(row, column) = numeric_prefix(grid.text(row - 1, column - 1));
+  return values;
+}
+
+}  // namespace
+
 void init_candidats() {
   efface_candidats();
-  solver.Candidats.reset();
-  solver.Paires = {};
+  Position start = open_position(displayed_values());
+  Candidats = start.candidates;
+  Paires = start.pairs;
   for (int row = 1; row <= 9; ++row)
-    for (int column = 1; column <= 9; ++column) {
-      const int value = numeric_prefix(sudoku().MSF.text(row - 1, column - 1));
-      solver.GrilleDepart(row, column) = static_cast<std::uint8_t>(value);
-      if (value != 0) solver.Candidats.fill({row, column}, value);
-    }
+    for (int column = 1; column <= 9; ++column)
+      solver.GrilleDepart(row, column) = static_cast<std::uint8_t>(Candidats.value({row, column}));
+}
+
+void maj_candidats() {
+  recompute(solver.position);
+  show_pairs();
 }
 
 Bool16 grille_finie() {
-  for (int number = 1; number <= 81; ++number)
-    if (solver.Candidats.value(cell_at(number)) == 0) return false;
+  if (!Candidats.is_complete()) return false;
   affiche_candidats();
   solver.GrilleFinie = true;
   return true;
 }
 
-namespace {
-
-/// The first empty cell, row by row, that counts no candidate.
-std::optional<Cell> dead_cell() {
-  for (int number = 1; number <= 81; ++number) {
-    const Cell cell = cell_at(number);
-    if (solver.Candidats.count(cell) == 0 && solver.Candidats.value(cell) == 0) return cell;
-  }
-  return std::nullopt;
-}
-
-}  // namespace
-
 Bool16 case_morte() {
-  const std::optional<Cell> dead = dead_cell();
+  const std::optional<Cell> dead = Candidats.dead_cell();
   if (!dead) return false;
-  solver.step = {};
-  solver.step.cells_as(Role::pattern).insert(*dead);
   if (!solver.SansMarqueMorte) {
-    marque_case(dead->row, dead->column, mark::removed);
+    marque_case(dead->row, dead->column, Mark::removed);
     affiche_candidats();
   }
   return true;
 }
 
+int nieme_candidat(int row, int column, int n) {
+  return nth_candidate(solver.position, {row, column}, n);
+}
+
 namespace {
 
-void tell_end(RunEnd end) {
-  if (solver.observer) solver.observer->ended(end);
-}
-
-/// Tries one technique; tells whether the driver is to start the next round.
-bool fires(const Technique& technique) {
-  solver.step = {};
-  solver.step.place = technique.place;
-  if (solver.observer) solver.observer->trying(technique);
-  const bool changed = technique.procedure();
-  if (solver.observer) solver.observer->tried(technique, changed);
-  return changed;
-}
-
-bool some_technique_fires() {
-  for (const Technique& technique : technique_order)
-    if (fires(technique)) return true;
-  return false;
+/// The tables become what the run found before the event.
+void enter_round(const Event& event) {
+  solver.position = event.before;
+  show_pairs();
 }
 
 void end_completed() {
-  tell_end(RunEnd::completed);
-  sudoku().show_message(Message::completed, Icon::exclamation);
-  sudoku().MSF.refresh();
-  sudoku().trace_ligne();
+  grille_finie();
+  Window& window = sudoku();
+  window.show_message(Message::completed, Icon::exclamation);
+  window.MSF.refresh();
+  window.trace_ligne();
+}
+
+void show_round() {
+  if (globals.ModePasAPas) affiche_candidats();
 }
 
 void end_exhausted() {
@@ -95,36 +89,38 @@ void end_exhausted() {
   window.trace_ligne();
   window.set_focus(Control::MSF);
   window.Lire_Grille_Initiale(0, 0);
-  tell_end(RunEnd::exhausted);
   window.show_message(Message::no_suggestion, Icon::exclamation);
   window.trace_ligne();
   window.set_focus(Control::MSF);
 }
 
-void recompute() {
-  maj_candidats();
-  if (solver.observer) solver.observer->recomputed();
-}
-
-/// One round up to the techniques that only remove candidates; tells whether the run is over.
-bool ends_before_techniques() {
-  recompute();
-  if (grille_finie()) {
-    end_completed();
-    return true;
+/// What the event means to the marks, the tables and the player.
+void act_on(const Event& event) {
+  switch (event.kind) {
+    case EventKind::removal:
+      show_round();
+      return perform(event.deduction);
+    case EventKind::offer:
+      show_round();
+      return place(event.deduction);
+    case EventKind::completed:
+      return end_completed();
+    case EventKind::dead:
+      case_morte();
+      return;
+    case EventKind::exhausted:
+      return end_exhausted();
   }
-  if (case_morte()) {
-    tell_end(RunEnd::dead);
-    return true;
-  }
-  if (globals.ModePasAPas) affiche_candidats();
-  return singleton_nu() || singleton_cache();
 }
 
 void run() {
   init_candidats();
-  while (!ends_before_techniques())
-    if (!some_technique_fires()) return end_exhausted();
+  Run& hint = solver.hint.emplace(solver.position);
+  while (!hint.is_over()) {
+    const Event& event = hint.next();
+    enter_round(event);
+    act_on(event);
+  }
 }
 
 /// suggestion is at work for as long as this lives; a run that is left by an exception leaves

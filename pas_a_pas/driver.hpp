@@ -21,10 +21,18 @@ std::int16_t suggestion();
 /// is an empty cell. No candidate is removed yet.
 void init_candidats();
 
+/// The recompute: every cell whose stored count is not 0 loses what the values it sees exclude, or
+/// everything when it has a value itself, and is counted afresh. A cell that is left with two
+/// candidates enters `Paires` and shows them in `MSR` as "3 , 8".
+void maj_candidats();
+
 /// Whether no cell is empty. If so, redraws the candidates and sets `GrilleFinie`.
 Bool16 grille_finie();
 
 /// Whether an empty cell has no candidate. If so, marks the first one and redraws the candidates.
 Bool16 case_morte();
+
+/// The n-th candidate of the cell in ascending order; 0 when it has fewer. All are 1..9.
+int nieme_candidat(int row, int column, int n);
 
 }  // namespace sdk

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "board/bool16.hpp"
+#include "logic/deduction.hpp"
 
 namespace sdk {
 
@@ -20,5 +21,8 @@ Bool16 singleton_cache();
 void place_singleton_nu(int row, int column, int digit);
 /// The same, but it marks and asks in every run.
 void place_singleton_cache(int row, int column, int digit);
+
+/// Hands the single that the deduction places to the one of these two that it belongs to.
+void place(const Deduction& single);
 
 }  // namespace sdk

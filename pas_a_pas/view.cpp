@@ -8,7 +8,7 @@
 #include <string>
 
 #include "game/window.hpp"
-#include "pas_a_pas/helpers.hpp"
+#include "pas_a_pas/tables.hpp"
 
 namespace sdk {
 
@@ -49,10 +49,10 @@ void write(const std::string& text) {
 
 void show_cell(Cell cell) {
   sudoku().MSR.make_current(cell.row - 1, cell.column - 1);
-  const int value = solver.Candidats.value(cell);
-  if (value == 0) return write(candidate_texts()[solver.Candidats.digits(cell).index()]);
+  const int value = Candidats.value(cell);
+  if (value == 0) return write(candidate_texts()[Candidats.digits(cell).index()]);
   write(std::to_string(value));
-  marque_case(cell.row, cell.column, mark::value);
+  marque_case(cell.row, cell.column, Mark::value);
 }
 
 }  // namespace
@@ -65,11 +65,21 @@ void affiche_candidats() {
   solver.SuggestionTrouvee = false;
 }
 
+void show_pairs() {
+  DisplayGrid& grid = sudoku().MSR;
+  for (const int number : Candidats.cells_counting(2)) {
+    const Cell cell = cell_at(number);
+    const auto [smaller, larger] = Paires(cell.row, cell.column);
+    grid.set_text(cell.row - 1, cell.column - 1,
+                  std::to_string(smaller) + " , " + std::to_string(larger));
+  }
+}
+
 void efface_candidats() {
   for (int row = 1; row <= 9; ++row)
     for (int column = 1; column <= 9; ++column) {
       sudoku().MSR.set_text(row - 1, column - 1, " ");
-      marque_case(row, column, mark::none);
+      marque_case(row, column, Mark::none);
     }
 }
 
@@ -77,7 +87,7 @@ void marque_candidats() {
   DisplayGrid& grid = sudoku().MSR;
   for (int row = 1; row <= 9; ++row)
     for (int column = 1; column <= 9; ++column) {
-      if (solver.Candidats.count({row, column}) == 0) continue;
+      if (Candidats.count({row, column}) == 0) continue;
       grid.make_current(row - 1, column - 1);
       grid.set_text_colour(colour::black);
     }
@@ -93,16 +103,16 @@ struct Look {
 };
 
 constexpr std::optional<Look> look_of(int mode) {
-  switch (mode) {
-    case mark::none:
+  switch (static_cast<Mark>(mode)) {
+    case Mark::none:
       return Look{colour::white, colour::black, FontSize::plain};
-    case mark::removed:
+    case Mark::removed:
       return Look{0xFF00FF, colour::black, FontSize::kept};
-    case mark::support:
+    case Mark::support:
       return Look{12648384, colour::green, FontSize::by_text};
-    case mark::value:
+    case Mark::value:
       return Look{14737632, colour::black, FontSize::by_text};
-    case mark::second:
+    case Mark::second:
       return Look{0x00FFFF, colour::black, FontSize::kept};
     default:
       return std::nullopt;
@@ -132,21 +142,20 @@ void marque_case(int row, int column, int mode) {
 
 void trace_candidat(int /*row*/, int /*column*/, int /*digit*/, Colour /*colour*/) {}
 
-void show(Cell cell, int mode, NineSet digits, Colour colour) {
-  if (!globals.ModePasAPas) return;
-  marque_case(cell.row, cell.column, mode);
-  for (const int digit : digits& solver.Candidats.digits(cell))
-    trace_candidat(cell.row, cell.column, digit, colour);
+namespace {
+
+Colour colour_of(Emphasis emphasis) {
+  return emphasis == Emphasis::removed ? hook::removed : hook::support;
 }
 
-void support(Cell cell, Role role, NineSet digits, int mode) {
-  solver.step.cells_as(role).insert(cell);
-  show(cell, mode, digits, hook::support);
-}
+}  // namespace
 
-void eliminate_shown(Cell cell, NineSet digits) {
-  show(cell, mark::removed, digits, hook::removed);
-  eliminate(cell, digits);
+void draw(const std::vector<Highlight>& highlights) {
+  for (const auto& [cell, mark, digits, emphasis] : highlights) {
+    if (mark) marque_case(cell.row, cell.column, *mark);
+    for (const int digit : digits)
+      trace_candidat(cell.row, cell.column, digit, colour_of(emphasis));
+  }
 }
 
 }  // namespace sdk

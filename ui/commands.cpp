@@ -11,7 +11,6 @@
 #include "files/external_solver.hpp"
 #include "files/puzzle_file.hpp"
 #include "pas_a_pas/driver.hpp"
-#include "pas_a_pas/helpers.hpp"
 #include "pas_a_pas/view.hpp"
 #include "puzzles/export.hpp"
 #include "puzzles/library.hpp"

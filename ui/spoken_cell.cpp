@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "game/window.hpp"
-#include "pas_a_pas/view.hpp"
+#include "logic/deduction.hpp"
 #include "ui/messages.hpp"
 
 namespace sdk {
@@ -32,14 +32,14 @@ std::string content_of(const std::string& text, std::string_view language) {
 }
 
 std::optional<Notice> meaning_of_mark(const DisplayCell& cell) {
-  switch (cell.mark) {
-    case mark::removed:
+  switch (static_cast<Mark>(cell.mark)) {
+    case Mark::removed:
       return Notice::reduced;
-    case mark::support:
+    case Mark::support:
       return Notice::pattern;
-    case mark::second:
+    case Mark::second:
       return Notice::second_pattern;
-    case mark::value:  // stays when the value is erased
+    case Mark::value:  // stays when the value is erased
       return shows_candidates(cell.text) ? std::nullopt : std::optional(Notice::placed);
     default:
       return cell.is_given() ? std::optional(Notice::given) : std::nullopt;

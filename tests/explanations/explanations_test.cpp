@@ -3,7 +3,7 @@
 
 // The sentences of the hints: every kind of step has its own in both languages.
 
-#include "ui/explanations.hpp"
+#include "explanations/explanations.hpp"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "pas_a_pas/tables.hpp"
-#include "pas_a_pas/techniques/techniques.hpp"
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace sdk::test {
@@ -26,11 +24,7 @@ using Cells = std::vector<std::pair<Cell, NineSet>>;
 /// Candidates drawn by hand, on which a technique is called as the driver calls it.
 class Explanations : public testing::Test {
  protected:
-  Explanations() {
-    window.start("");
-    solver.Paires = {};
-    solver.Candidats.reset();
-  }
+  Explanations() { position.candidates.reset(); }
 
   /// These cells have these candidates, all others none.
   void hold(const Cells& cells) {
@@ -38,29 +32,30 @@ class Explanations : public testing::Test {
       const Cell cell = cell_at(number);
       const auto known = std::ranges::find(cells, cell, &Cells::value_type::first);
       const NineSet digits = known == cells.end() ? NineSet() : known->second;
-      for (const int digit : NineSet::all() - digits) solver.Candidats.remove(cell, digit);
-      solver.Candidats.set_count(cell, digits.count());
+      for (const int digit : NineSet::all() - digits) position.candidates.remove(cell, digit);
+      position.candidates.set_count(cell, digits.count());
     }
   }
-  void fire(int place, Bool16 (*technique)()) {
-    solver.step = {};
-    solver.step.place = place;
-    ASSERT_TRUE(technique());
+  void fire(const Technique& technique) {
+    position.links = links_of(position.candidates);
+    const auto found = find_by(technique, position);
+    ASSERT_TRUE(found);
+    deduction = *found;
   }
-  std::string english() const { return explain(solver.step, "En"); }
-  std::string french() const { return explain(solver.step, "Fr"); }
+  std::string english() const { return explain(deduction, "En"); }
+  std::string french() const { return explain(deduction, "Fr"); }
 
-  YesDesktop desktop;
-  MainWindow window{desktop};
+  Position position;
+  Deduction deduction;
 };
 
 TEST_F(Explanations, AvoidableRectangle) {
   hold({{{5, 8}, {3, 8, 9}}});
   for (const auto& [cell, value] : {std::pair<Cell, int>{{2, 1}, 3}, {{2, 8}, 8}, {{5, 1}, 8}}) {
-    solver.Candidats.set_value(cell, value);
-    solver.Paires(cell.row, cell.column) = {3, 8};
+    position.candidates.set_value(cell, value);
+    position.pairs(cell.row, cell.column) = {3, 8};
   }
-  fire(10, rectangle_evitable);
+  fire(technique_named("avoidable_rectangle"));
   EXPECT_EQ(english(),
             "Avoidable rectangle: r2c1, r2c8 and r5c1 were choices between 3 and 8; with the 3 in "
             "r5c8 they could be swapped and the puzzle would have two solutions. Removed: 3 from "
@@ -77,7 +72,7 @@ TEST_F(Explanations, UniqueRectangleWithOneExtraDigitInThreeCorners) {
         {{6, 4}, {3, 5, 8}},
         {{6, 5}, {3, 5, 8}},
         {{5, 6}, {5, 7}}});
-  fire(9, rectangles_uniques);
+  fire(technique_named("unique_rectangle"));
   EXPECT_EQ(english(),
             "Unique rectangle: without the 5 in r4c5, r6c4 and r6c5, the corners r4c4, r4c5, r6c4 "
             "and r6c5 would hold only 3 and 8, which could be swapped; so one of these three "
@@ -90,7 +85,7 @@ TEST_F(Explanations, UniqueRectangleWithOneExtraDigitInThreeCorners) {
 
 TEST_F(Explanations, FinnedXWingWithoutAFin) {
   hold({{{2, 3}, {5}}, {{2, 8}, {5}}, {{6, 3}, {5}}, {{6, 8}, {5}}, {{9, 3}, {5}}});
-  fire(18, aile_x_aileron);
+  fire(technique_named("finned_x_wing"));
   EXPECT_EQ(english(),
             "Finned X-wing, without a fin: in row 2 and row 6, the 5 can only go in the corners "
             "r2c3, r2c8, r6c3 and r6c8, so it has no other place in their columns. Removed: 5 from "
@@ -104,8 +99,7 @@ TEST_F(Explanations, FinnedXWingWithoutAFin) {
 TEST_F(Explanations, AColourThatSeesItself) {
   // Row 1, column 5, row 6 and column 2 chain r1c1 to r2c2, which see each other in box 1.
   hold({{{1, 1}, {4}}, {{1, 5}, {4}}, {{6, 5}, {4}}, {{6, 2}, {4}}, {{2, 2}, {4}}, {{3, 3}, {4}}});
-  construit_liens();
-  fire(21, coloriage);
+  fire(technique_named("simple_colouring"));
   EXPECT_EQ(english(),
             "Simple colouring: two colours, r1c1, r2c2 and r6c5 against r1c5 and r6c2; the 4 "
             "stands in every cell of one and in none of the other, and two cells of one colour see "
@@ -118,71 +112,74 @@ TEST_F(Explanations, AColourThatSeesItself) {
 
 TEST_F(Explanations, DigitsThatLeaveTheSameCellsAreToldTogether) {
   hold({{{2, 1}, {3, 8}}, {{2, 7}, {3, 8}}, {{2, 8}, {3, 5, 8}}, {{2, 9}, {3, 8, 9}}});
-  fire(5, naked_pairs);
+  fire(technique_named("naked_pair"));
   EXPECT_TRUE(english().ends_with("Removed: 3 and 8 from r2c8 and r2c9.")) << english();
 }
 
 TEST_F(Explanations, DigitsThatLeaveDifferentCellsAreToldOneByOne) {
   hold({{{2, 1}, {3, 8}}, {{2, 7}, {3, 8}}, {{2, 8}, {3, 5}}, {{2, 9}, {8, 9}}});
-  fire(5, naked_pairs);
+  fire(technique_named("naked_pair"));
   EXPECT_TRUE(english().ends_with("Removed: 3 from r2c8; 8 from r2c9.")) << english();
   EXPECT_TRUE(french().ends_with("Retiré : 3 de L2C8 ; 8 de L2C9.")) << french();
 }
 
-/// What technique and rule leave, the technique's name in both languages.
+/// A rule of a technique, and the technique's name in both languages.
 struct Kind {
-  int place, variant;
+  std::string_view technique;
+  Rule rule;
   std::string_view english, french;
 };
 
 constexpr Kind kinds[] = {
-    {0, 1, "Naked single:", "Singleton nu :"},
-    {0, 2, "Hidden single:", "Singleton caché :"},
-    {1, 0, "Pointing:", "Pointage :"},
-    {2, 0, "Pointing:", "Pointage :"},
-    {3, 0, "Box/line reduction:", "Réduction ligne/région :"},
-    {4, 0, "Box/line reduction:", "Réduction colonne/région :"},
-    {5, 0, "Naked pair:", "Paire nue :"},
-    {6, 0, "Hidden pair:", "Paire cachée :"},
-    {7, 0, "Naked triple:", "Triplet nu :"},
-    {8, 0, "Hidden triple:", "Triplet caché :"},
-    {9, 1, "Unique rectangle:", "Rectangle unique :"},
-    {9, 2, "Unique rectangle:", "Rectangle unique :"},
-    {9, 3, "Unique rectangle:", "Rectangle unique :"},
-    {9, 4, "Unique rectangle:", "Rectangle unique :"},
-    {9, 5, "Unique rectangle:", "Rectangle unique :"},
-    {10, 0, "Avoidable rectangle:", "Rectangle évitable :"},
-    {11, 0, "Naked quad:", "Quadruplet nu :"},
-    {12, 0, "X-wing:", "Aile X (X-wing) :"},
-    {13, 0, "Hidden quad:", "Quadruplet caché :"},
-    {14, 0, "Swordfish:", "Espadon (swordfish) :"},
-    {15, 0, "Jellyfish:", "Méduse (jellyfish) :"},
-    {16, 0, "XY-wing:", "Aile XY (XY-wing) :"},
-    {17, 0, "XYZ-wing:", "Aile XYZ (XYZ-wing) :"},
-    {18, 1, "Finned X-wing:", "Aile X à aileron (finned X-wing) :"},
-    {18, 2, "Finned X-wing, without a fin:", "Aile X à aileron (finned X-wing), sans aileron :"},
-    {20, 0, "W-wing:", "Aile W (W-wing) :"},
-    {21, 1, "Simple colouring:", "Coloriage simple :"},
-    {21, 2, "Simple colouring:", "Coloriage simple :"},
+    {"naked_single", Rule::only, "Naked single:", "Singleton nu :"},
+    {"hidden_single", Rule::only, "Hidden single:", "Singleton caché :"},
+    {"pointing_rows", Rule::only, "Pointing:", "Pointage :"},
+    {"pointing_columns", Rule::only, "Pointing:", "Pointage :"},
+    {"box_line_rows", Rule::only, "Box/line reduction:", "Réduction ligne/région :"},
+    {"box_line_columns", Rule::only, "Box/line reduction:", "Réduction colonne/région :"},
+    {"naked_pair", Rule::only, "Naked pair:", "Paire nue :"},
+    {"hidden_pair", Rule::only, "Hidden pair:", "Paire cachée :"},
+    {"naked_triple", Rule::only, "Naked triple:", "Triplet nu :"},
+    {"hidden_triple", Rule::only, "Hidden triple:", "Triplet caché :"},
+    {"unique_rectangle", Rule::odd_corner, "Unique rectangle:", "Rectangle unique :"},
+    {"unique_rectangle", Rule::two_share_a_digit, "Unique rectangle:", "Rectangle unique :"},
+    {"unique_rectangle", Rule::bound_to_roof, "Unique rectangle:", "Rectangle unique :"},
+    {"unique_rectangle", Rule::three_share_a_digit, "Unique rectangle:", "Rectangle unique :"},
+    {"unique_rectangle", Rule::bound_to_diagonal, "Unique rectangle:", "Rectangle unique :"},
+    {"avoidable_rectangle", Rule::only, "Avoidable rectangle:", "Rectangle évitable :"},
+    {"naked_quad", Rule::only, "Naked quad:", "Quadruplet nu :"},
+    {"x_wing", Rule::only, "X-wing:", "Aile X (X-wing) :"},
+    {"hidden_quad", Rule::only, "Hidden quad:", "Quadruplet caché :"},
+    {"swordfish", Rule::only, "Swordfish:", "Espadon (swordfish) :"},
+    {"jellyfish", Rule::only, "Jellyfish:", "Méduse (jellyfish) :"},
+    {"xy_wing", Rule::only, "XY-wing:", "Aile XY (XY-wing) :"},
+    {"xyz_wing", Rule::only, "XYZ-wing:", "Aile XYZ (XYZ-wing) :"},
+    {"finned_x_wing", Rule::with_fin, "Finned X-wing:", "Aile X à aileron (finned X-wing) :"},
+    {"finned_x_wing", Rule::without_fin,
+     "Finned X-wing, without a fin:", "Aile X à aileron (finned X-wing), sans aileron :"},
+    {"w_wing", Rule::only, "W-wing:", "Aile W (W-wing) :"},
+    {"simple_colouring", Rule::trap, "Simple colouring:", "Coloriage simple :"},
+    {"simple_colouring", Rule::wrap, "Simple colouring:", "Coloriage simple :"},
 };
 
 /// Every role has a cell of its own, so that an empty slot would show.
-Step step_of(const Kind& kind) {
-  Step step;
-  step.place = kind.place;
-  step.variant = kind.variant;
-  step.unit = {UnitKind::row, 2};
-  step.other_unit = {UnitKind::column, 7};
-  step.digits = {3, 8};
+Deduction deduction_of(const Kind& kind) {
+  Deduction deduction;
+  deduction.technique = technique_with(kind.technique);
+  deduction.rule = kind.rule;
+  deduction.unit = {UnitKind::row, 2};
+  deduction.other_unit = {UnitKind::column, 7};
+  deduction.digits = {3, 8};
   for (std::size_t role = 0; role < role_count; ++role)
-    step.cells[role].insert(static_cast<int>(role) + 10);
-  step.removed[3].insert(81);
-  return step;
+    deduction.cells[role].insert(static_cast<int>(role) + 10);
+  deduction.removed[3].insert(81);
+  return deduction;
 }
 
-TEST(Sentences, EveryKindOfStepHasOneInBothLanguagesWithoutAnEmptySlot) {
+TEST(Sentences, EveryRuleOfEveryTechniqueHasOneInBothLanguagesWithoutAnEmptySlot) {
   for (const Kind& kind : kinds) {
-    const std::string english = explain(step_of(kind), "En"), french = explain(step_of(kind), "Fr");
+    const Deduction deduction = deduction_of(kind);
+    const std::string english = explain(deduction, "En"), french = explain(deduction, "Fr");
     EXPECT_TRUE(english.starts_with(kind.english)) << english;
     EXPECT_TRUE(french.starts_with(kind.french)) << french;
     for (const std::string& text : {english, french}) {
@@ -190,41 +187,40 @@ TEST(Sentences, EveryKindOfStepHasOneInBothLanguagesWithoutAnEmptySlot) {
       for (const char* hole : {"%", "  ", " ,", "..", "and .", "et ."})
         EXPECT_EQ(text.find(hole), text.npos) << text;
     }
-    if (kind.place > 0) {
+    if (deduction.technique->place > 0) {
       EXPECT_TRUE(english.ends_with(" Removed: 3 from r9c9.")) << english;
       EXPECT_TRUE(french.ends_with(" Retiré : 3 de L9C9.")) << french;
     }
   }
 }
 
-TEST(Sentences, AStepThatNoTechniqueLeavesHasNone) {
-  EXPECT_THROW(explain(step_of({19, 0, "", ""}), "En"), std::out_of_range);
-  EXPECT_THROW(explain(step_of({9, 6, "", ""}), "En"), std::out_of_range);
+TEST(Sentences, ADeductionThatNoTechniqueMakesHasNone) {
+  EXPECT_THROW(explain(Deduction(), "En"), std::out_of_range);
+  EXPECT_THROW(explain(deduction_of({"unique_rectangle", Rule::trap, "", ""}), "En"),
+               std::out_of_range);
 }
 
 TEST(Sentences, EveryEndHasOneInBothLanguages) {
-  Step step;
-  step.cells_as(Role::pattern).insert(Cell{4, 2});
-  EXPECT_EQ(explain(RunEnd::completed, step, "En"), "The puzzle is complete.");
-  EXPECT_EQ(explain(RunEnd::completed, step, "Fr"), "La grille est terminée.");
-  EXPECT_EQ(explain(RunEnd::dead, step, "En"),
+  Event event{EventKind::completed, {}, {}};
+  EXPECT_EQ(explain(event, "En"), "The puzzle is complete.");
+  EXPECT_EQ(explain(event, "Fr"), "La grille est terminée.");
+  event.kind = EventKind::exhausted;
+  EXPECT_EQ(explain(event, "En"), "No technique finds anything more.");
+  EXPECT_EQ(explain(event, "Fr"), "Aucune technique ne trouve plus rien.");
+  event.kind = EventKind::dead;
+  event.deduction.cells_as(Role::pattern).insert(Cell{4, 2});
+  EXPECT_EQ(explain(event, "En"),
             "No digit is possible in r4c2 any more: the puzzle cannot be completed.");
-  EXPECT_EQ(explain(RunEnd::dead, step, "Fr"),
+  EXPECT_EQ(explain(event, "Fr"),
             "Aucun chiffre n'est plus possible en L4C2 : la grille ne peut être terminée.");
-  EXPECT_EQ(explain(RunEnd::exhausted, step, "En"), "No technique finds anything more.");
-  EXPECT_EQ(explain(RunEnd::exhausted, step, "Fr"), "Aucune technique ne trouve plus rien.");
 }
 
 TEST(Sentences, EveryStepOfTheLibrarysWalksHasOne) {
-  Walker walker;
   for (const LibraryEntry& entry : BibliothequeGrilles) {
-    std::string puzzle(entry.solution);
-    for (std::size_t k = 0; k < puzzle.size(); ++k)
-      if (entry.mask[k] == '0') puzzle[k] = '.';
-    const std::string walk = walker.walk(puzzle);
+    const std::string puzzle = puzzle_text(entry);
     for (const char* language : {"En", "Fr"}) {
-      const std::string sentences = walker.explained(puzzle, language);
-      EXPECT_EQ(std::ranges::count(sentences, '\n'), std::ranges::count(walk, '\n'));
+      const std::string sentences = explained_walk(puzzle, language);
+      EXPECT_EQ(std::ranges::count(sentences, '\n'), std::ranges::count(walk(puzzle), '\n'));
       EXPECT_EQ(sentences.find('%'), sentences.npos);
     }
   }

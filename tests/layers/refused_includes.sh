@@ -9,7 +9,7 @@ check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 mkdir -p "$tree"/{board,logic/techniques,screen,game,puzzles/stock,pas_a_pas,files/text,explanations,ui/qt} \
-  "$tree"/tools/{script,guide,zolv}
+  "$tree"/tools/{script,walk,guide,zolv}
 touch "$tree"/tools/zolv/beside.hpp
 failures=0
 
@@ -48,6 +48,7 @@ accepted tools/script/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted tools/guide/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted tools/guide/a.cpp '#include <QImage>'
 accepted tools/guide/a.cpp '#include "ui/qt/main_frame.hpp"'
+accepted tools/walk/a.cpp '#include "explanations/explanations.hpp"'
 accepted tools/zolv/a.cpp '#include "beside.hpp"'
 
 refused board/a.cpp '#include "screen/colours.hpp"'
@@ -80,6 +81,8 @@ refused board/a.cpp '#include "qpoint.h"'
 refused tools/script/a.cpp '#include <QCoreApplication>'
 refused tools/script/a.cpp '#include "ui/qt/main_frame.hpp"'
 refused tools/guide/a.cpp '#include "tools/script/script.hpp"'
+refused tools/walk/a.cpp '#include "ui/main_window.hpp"'
+refused tools/walk/a.cpp '#include "game/globals.hpp"'
 refused tools/zolv/a.cpp '#include "board/square.hpp"'
 
 exit $((failures > 0))

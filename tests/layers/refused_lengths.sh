@@ -47,7 +47,7 @@ accepted board/a.hpp < <(function_of 30 'inline void f()')
 accepted ui/qt/a.cpp < <(function_of 20 && function_of 20 'void g()')
 accepted board/a.cpp < <(file_of 250)
 accepted puzzles/stock/library_table.cpp < <(file_of 251)
-accepted explanations/explanations.cpp < <(file_of 251)
+accepted explanations/sentences.hpp < <(file_of 251)
 accepted tests/a.cpp < <(function_of 31)
 accepted bench/a.cpp < <(function_of 31)
 accepted build/generated/a.cpp < <(function_of 31)
@@ -61,7 +61,7 @@ refused 'board/a.cpp:2 operator== 31' board/a.cpp < <(
   function_of 31 $'struct S {\nbool operator==(S other) const' && echo '};')
 refused 'board/a.cpp:1 f 32' board/a.cpp < <(
   echo 'void f() {' && function_of 30 '  const auto lambda = []' && echo '}')
-refused 'explanations/explanations.cpp:1 f 31' explanations/explanations.cpp < <(function_of 31)
+refused 'explanations/sentences.hpp:1 f 31' explanations/sentences.hpp < <(function_of 31)
 refused 'board/a.cpp:251 the file 251' board/a.cpp < <(file_of 251)
 refused 'board/a.hpp:251 the file 251' board/a.hpp < <(file_of 251)
 

@@ -7,10 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
-#include "pas_a_pas/helpers.hpp"
-#include "pas_a_pas/order.hpp"
 #include "tests/pas_a_pas/hint_game.hpp"
 
 namespace sdk::test {
@@ -35,9 +31,9 @@ TEST_F(Driver, InitialisationReadsEveryTextOfTheGrid) {
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
     const int value = number == 1 ? 1 : number == 41 ? 5 : number == 81 ? 9 : 0;
-    EXPECT_EQ(solver.Candidats.value(cell), value) << number;
-    EXPECT_EQ(solver.Candidats.count(cell), value == 0 ? 9 : 0) << number;
-    EXPECT_EQ(solver.Candidats.digits(cell), value == 0 ? NineSet::all() : NineSet{}) << number;
+    EXPECT_EQ(Candidats.value(cell), value) << number;
+    EXPECT_EQ(Candidats.count(cell), value == 0 ? 9 : 0) << number;
+    EXPECT_EQ(Candidats.digits(cell), value == 0 ? NineSet::all() : NineSet{}) << number;
     EXPECT_EQ(solver.GrilleDepart(cell.row, cell.column), value) << number;
   }
 }
@@ -47,13 +43,13 @@ TEST_F(Driver, InitialisationEmptiesTheCandidateGridAndThePairs) {
   game.hint();
   ASSERT_NE(game.marked(5), "");
   w.MSF.set_text(0, 0, " ");
-  solver.Paires(1, 1) = solver.Paires(9, 9) = {3, 8};
+  Paires(1, 1) = Paires(9, 9) = {3, 8};
   init_candidats();
   EXPECT_EQ(game.marked(0), all_cells());
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
     EXPECT_EQ(game.candidates(cell.row, cell.column).text, " ");
-    EXPECT_EQ(solver.Paires(cell.row, cell.column), (std::array<std::uint8_t, 2>{0, 0}));
+    EXPECT_EQ(Paires(cell.row, cell.column), (std::array<std::uint8_t, 2>{0, 0}));
   }
 }
 
@@ -63,7 +59,7 @@ TEST_F(Driver, AFullGridIsCompletedAtOnceEvenWhenItBreaksTheRules) {
   game.draw(std::string(81, '1'));
   const std::string before = shown(w);
   game.hint();
-  EXPECT_EQ(game.solving.events, (Lines{"round", "completed"}));
+  EXPECT_EQ(game.events, (Lines{"completed"}));
   EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
   EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines"}));
   EXPECT_EQ(shown(w), before);
@@ -93,7 +89,7 @@ TEST_F(Driver, TheLastPlacementIsFollowedByTwoBoxes) {
   EXPECT_EQ(desktop.boxes[0].buttons, Buttons::yes_no);
   EXPECT_EQ(desktop.boxes[1], message(14, Icon::exclamation));
   EXPECT_EQ(desktop.boxes[2], message(14, Icon::exclamation));
-  EXPECT_EQ(game.solving.events, (Lines{"round", "naked r1c1=1", "round", "completed"}));
+  EXPECT_EQ(game.events, (Lines{"naked r1c1=1", "completed"}));
 }
 
 // Dead cell
@@ -106,7 +102,7 @@ TEST_F(Driver, ADeadCellIsMarkedWithoutAMessage) {
   game.draw(two_dead_cells);
   const std::string before = shown(w);
   game.hint();
-  EXPECT_EQ(game.solving.events, (Lines{"round", "dead"}));
+  EXPECT_EQ(game.events, (Lines{"dead"}));
   EXPECT_TRUE(desktop.boxes.empty());
   EXPECT_EQ(game.marked(3), "r1c9");
   EXPECT_EQ(game.candidates(1, 9).back_colour, 0xFF00FFu);
@@ -142,7 +138,7 @@ TEST_F(Driver, ADeadCellIsFoundBeforeANakedSingle) {
   grid.replace(30, 9, "..1234567");  // r4c1 and r4c2 are left with 8 and 9, r4c1 sees a 9
   game.draw(grid);
   game.hint();
-  EXPECT_EQ(game.solving.events, (Lines{"round", "dead"}));
+  EXPECT_EQ(game.events, (Lines{"dead"}));
 }
 
 // Exhausted
@@ -152,7 +148,7 @@ TEST_F(Driver, WhenNothingIsFoundTheGridIsReadAndThePlayerTold) {
   w.Grille(5, 5) = w.GrilleInitiale(5, 5) = 7;
   w.set_focus(Control::Command8);
   game.hint();
-  EXPECT_EQ(game.solving.events.back(), "exhausted");
+  EXPECT_EQ(game.events.back(), "exhausted");
   EXPECT_EQ(desktop.boxes, std::vector{message(32, Icon::exclamation)});
   EXPECT_EQ(game.repaints, (Lines{"lines", "lines"}));
   EXPECT_EQ(w.focus(), Control::MSF);
@@ -166,53 +162,9 @@ TEST_F(Driver, TheReadingAtTheEndReddensTheTopLeftCellForAClashAnywhere) {
   grid[70] = grid[80] = '5';  // one box
   game.draw(grid);
   game.hint();
-  EXPECT_EQ(game.solving.events.back(), "exhausted");
+  EXPECT_EQ(game.events.back(), "exhausted");
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::red), "r1c1");
   EXPECT_FALSE(globals.GrilleOk);
-}
-
-TEST_F(Driver, EveryTechniqueIsTriedInOrderBeforeTheEnd) {
-  game.draw(std::string(81, '.'));
-  game.hint();
-  Lines expected{"round"};
-  for (int place = 1; place <= 21; ++place) expected.push_back(std::to_string(place) + " nothing");
-  expected.push_back("exhausted");
-  EXPECT_EQ(game.solving.events, expected);
-}
-
-TEST(Order, IsTheOneOfThePlaces) {
-  for (std::size_t i = 0; i < technique_order.size(); ++i)
-    EXPECT_EQ(technique_order[i].place, static_cast<int>(i) + 1);
-}
-
-// Rounds
-
-/// The places that a round tries after the singles: 1, 2, ... up to the one that fires.
-Lines round_that_fires(int place) {
-  Lines events{"round"};
-  for (int earlier = 1; earlier < place; ++earlier)
-    events.push_back(std::to_string(earlier) + " nothing");
-  events.push_back(std::to_string(place) + " fired");
-  return events;
-}
-
-TEST_F(Driver, AfterATechniqueFiredTheNextRoundBeginsWithTheFirstOne) {
-  game.draw(library_puzzle(34));
-  desktop.answers.assign(81, Answer::yes);
-  game.hint();
-  int fired = 0;
-  for (const std::string& event : game.solving.events) {
-    if (!event.ends_with(" fired")) continue;
-    ++fired;
-    const Lines whole = round_that_fires(std::stoi(event));
-    EXPECT_NE(std::ranges::search(game.solving.events, whole).begin(), game.solving.events.end())
-        << event;
-  }
-  EXPECT_GT(fired, 3);
-  for (std::size_t i = 0; i + 1 < game.solving.events.size(); ++i)
-    if (game.solving.events[i].ends_with(" fired")) {
-      EXPECT_EQ(game.solving.events[i + 1], "round") << i;
-    }
 }
 
 TEST_F(Driver, ARunForgetsWhatTheOneBeforeRemoved) {
@@ -221,11 +173,11 @@ TEST_F(Driver, ARunForgetsWhatTheOneBeforeRemoved) {
   Lines first;
   for (int times = 0; times < 2; ++times) {
     game.forget();
-    game.solving.events.clear();
+    game.events.clear();
     game.hint();
-    if (times == 0) first = game.solving.events;
+    if (times == 0) first = game.events;
   }
-  EXPECT_EQ(game.solving.events, first);
+  EXPECT_EQ(game.events, first);
 }
 
 TEST_F(Driver, TheHintButtonSetsTheStepModeAndNothingSetsItBack) {

@@ -3,8 +3,7 @@
 
 #include "tests/pas_a_pas/hint_game.hpp"
 
-#include "pas_a_pas/order.hpp"
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 
 namespace sdk::test {
 
@@ -13,33 +12,51 @@ std::string name_of(Cell cell) {
 }
 
 std::string library_puzzle(int number) {
-  const auto& [mask, solution] = BibliothequeGrilles.at(static_cast<std::size_t>(number - 1));
-  std::string puzzle(solution);
-  for (std::size_t k = 0; k < puzzle.size(); ++k)
-    if (mask[k] == '0') puzzle[k] = '.';
-  return puzzle;
+  return puzzle_text(BibliothequeGrilles.at(static_cast<std::size_t>(number - 1)));
 }
 
-void SolverRecorder::tried(const Technique& technique, bool changed) {
-  events.push_back(std::to_string(technique.place) + (changed ? " fired" : " nothing"));
+namespace {
+
+std::string told_offer(const Deduction& deduction) {
+  const auto [cell, digit] = *deduction.placement;
+  return (is_naked_single(deduction) ? "naked " : "hidden ") + name_of(cell) + "=" +
+         std::to_string(digit);
 }
 
-void SolverRecorder::offered(Single kind, Cell cell, int digit) {
-  events.push_back((kind == Single::naked ? "naked " : "hidden ") + name_of(cell) + "=" +
-                   std::to_string(digit));
-}
+}  // namespace
 
-void SolverRecorder::ended(RunEnd end) {
-  static constexpr const char* names[] = {"completed", "dead", "exhausted"};
-  events.push_back(names[static_cast<int>(end)]);
+std::string told(const Event& event) {
+  switch (event.kind) {
+    case EventKind::removal:
+      return std::to_string(event.deduction.technique->place) + " fired";
+    case EventKind::offer:
+      return told_offer(event.deduction);
+    case EventKind::completed:
+      return "completed";
+    case EventKind::dead:
+      return "dead";
+    default:
+      return "exhausted";
+  }
 }
 
 HintGame::HintGame() {
   solver.GrilleFinie = solver.SuggestionTrouvee = false;
-  solver.observer = &solving;
+  desktop.at_box = [this](const Box& box) {
+    if (box.buttons == Buttons::yes_no) record_run();
+  };
 }
 
-HintGame::~HintGame() { solver.observer = nullptr; }
+void HintGame::record_run() {
+  if (!solver.hint) return;  // a single was placed without a run
+  for (const Event& event : solver.hint->events()) events.push_back(told(event));
+}
+
+void HintGame::hint() {
+  window.click(Control::Command8);
+  // A run that offers something has been recorded when it asked.
+  if (solver.hint.value().events().back().kind != EventKind::offer) record_run();
+}
 
 Lines HintGame::questions() const {
   Lines texts;
@@ -56,18 +73,6 @@ std::string HintGame::marked(int mode) const {
     names += (names.empty() ? "" : " ") + name_of(cell);
   }
   return names;
-}
-
-void set_candidates(Cell cell, NineSet digits) {
-  for (const int digit : NineSet::all() - digits) solver.Candidats.remove(cell, digit);
-  solver.Candidats.set_count(cell, solver.Candidats.digits(cell).count());
-}
-
-void keep_places(Unit unit, int digit, NineSet places) {
-  for (const int place : NineSet::all() - places) {
-    const Cell cell = unit.cell(place);
-    set_candidates(cell, solver.Candidats.digits(cell) - NineSet{digit});
-  }
 }
 
 }  // namespace sdk::test

@@ -1,44 +1,35 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// A game in which hints are asked for, a record of what the solver did, and hands on its tables.
-/// Rows, columns, digits and places are 1..9.
+/// A game in which hints are asked for, and a record of what the solver did. Rows, columns, digits
+/// and places are 1..9.
 #pragma once
 
 #include <string>
 
-#include "pas_a_pas/observer.hpp"
 #include "pas_a_pas/tables.hpp"
+#include "tests/logic/candidates.hpp"
 #include "tests/support/game.hpp"
 
 namespace sdk::test {
-
-/// "round"; "5 fired" or "5 nothing" for a technique by its place; "naked r1c2=3", "hidden r1c2=3";
-/// "completed", "dead", "exhausted".
-class SolverRecorder : public SolverObserver {
- public:
-  Lines events;
-
-  void recomputed() override { events.push_back("round"); }
-  void tried(const Technique& technique, bool changed) override;
-  void offered(Single kind, Cell cell, int digit) override;
-  void ended(RunEnd end) override;
-};
 
 std::string name_of(Cell cell);
 
 /// Entry `number` (1..40) of the library, for drawing.
 std::string library_puzzle(int number);
 
+/// Such as "5 fired" for a technique by its place, "naked r1c2=3", "hidden r1c2=3", "completed",
+/// "dead" or "exhausted".
+std::string told(const Event& event);
+
 class HintGame : public Game {
  public:
   HintGame();
-  ~HintGame();
 
-  SolverRecorder solving;
+  Lines events;  ///< of all runs that a hint made, also those that an accepted offer started
 
   /// Presses the hint button.
-  void hint() { window.click(Control::Command8); }
+  void hint();
   /// The texts of all Yes/No boxes so far.
   Lines questions() const;
   /// The cells of `MSR` with that mark, such as "r1c1 r9c9".
@@ -46,11 +37,15 @@ class HintGame : public Game {
   const DisplayCell& candidates(int row, int column) const {
     return window.MSR.cell(row - 1, column - 1);
   }
+
+ private:
+  void record_run();
 };
 
-/// The cell has exactly these candidates, and they are counted.
-void set_candidates(Cell cell, NineSet digits);
-/// The digit keeps only these places in the unit; counts follow.
-void keep_places(Unit unit, int digit, NineSet places);
+/// The same as in tests/logic/candidates.hpp, in `Candidats`.
+inline void set_candidates(Cell cell, NineSet digits) { set_candidates(Candidats, cell, digits); }
+inline void keep_places(Unit unit, int digit, NineSet places) {
+  keep_places(Candidats, unit, digit, places);
+}
 
 }  // namespace sdk::test

@@ -55,7 +55,7 @@ TEST_F(View, ACellOfTwoCandidatesShowsThreeLinesToo) {
 }
 
 TEST_F(View, AFilledCellShowsItsValueInItsOwnLook) {
-  solver.Candidats.set_value({3, 7}, 6);  // its candidates are still there
+  Candidats.set_value({3, 7}, 6);  // its candidates are still there
   affiche_candidats();
   EXPECT_EQ(game.candidates(3, 7).text, "6");
   EXPECT_EQ(looks_of(game.candidates(3, 7)), (Looks{colour::black, 14737632, 20, 5}));
@@ -156,7 +156,7 @@ TEST_F(View, AMarkChangesItsOwnCellAlone) {
 TEST_F(View, BlackTextGoesToTheCellsThatCountCandidates) {
   marque_case(1, 1, 4);
   marque_case(1, 2, 4);
-  solver.Candidats.set_count({1, 2}, 0);
+  Candidats.set_count({1, 2}, 0);
   marque_candidats();
   EXPECT_EQ(game.candidates(1, 1).text_colour, colour::black);
   EXPECT_EQ(game.candidates(1, 2).text_colour, colour::green);
@@ -179,11 +179,11 @@ TEST_F(View, ClearingEmptiesEveryCellAndTakesItsMark) {
 TEST_F(View, TheHookForOneCandidateDoesNothing) {
   affiche_candidats();
   const std::string before = dump(w);
-  const CandidateCube candidates = solver.Candidats;
+  const CandidateCube candidates = Candidats;
   trace_candidat(5, 5, 3, 255);
   trace_candidat(5, 5, 3, 16711680);
   EXPECT_EQ(difference(before, dump(w)), "");
-  EXPECT_EQ(solver.Candidats, candidates);
+  EXPECT_EQ(Candidats, candidates);
 }
 
 }  // namespace

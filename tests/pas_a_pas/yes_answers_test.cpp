@@ -13,16 +13,6 @@
 namespace sdk::test {
 namespace {
 
-/// How deep the stack is at each question.
-class StackMeter : public SolverObserver {
- public:
-  std::vector<std::uintptr_t> depths;
-
-  void offered(Single, Cell, int) override {
-    depths.push_back(reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)));
-  }
-};
-
 class YesAnswers : public testing::Test {
  protected:
   YesAnswers() { game.draw(library_puzzle(39)); }
@@ -31,12 +21,15 @@ class YesAnswers : public testing::Test {
 };
 
 TEST_F(YesAnswers, SixtyFourPlacementsDoNotDeepenTheStack) {
-  StackMeter meter;
-  solver.observer = &meter;
+  std::vector<std::uintptr_t> depths;
+  game.desktop.at_box = [&](const Box& box) {
+    if (box.buttons == Buttons::yes_no)
+      depths.push_back(reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)));
+  };
   game.desktop.answers.assign(64, Answer::yes);
   game.hint();
-  ASSERT_EQ(meter.depths.size(), 64u);
-  const auto [lowest, highest] = std::ranges::minmax(meter.depths);
+  ASSERT_EQ(depths.size(), 64u);
+  const auto [lowest, highest] = std::ranges::minmax(depths);
   // A naked and a hidden single are offered through different procedures; 63 nested runs would
   // take far more.
   EXPECT_LT(highest - lowest, 1000u);
@@ -64,7 +57,7 @@ TEST_F(YesAnswers, OneQuestionComesForEachPlacementAndTheEndIsToldOnce) {
   game.hint();
   EXPECT_EQ(game.questions().size(), 64u);
   EXPECT_EQ(game.desktop.boxes.size(), 66u);
-  EXPECT_EQ(std::ranges::count(game.solving.events, "completed"), 1);
+  EXPECT_EQ(std::ranges::count(game.events, "completed"), 1);
   EXPECT_EQ(game.window.control(Control::Label).caption, " 81 indices");
 }
 

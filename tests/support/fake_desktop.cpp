@@ -67,6 +67,7 @@ std::string FakeDesktop::rescued_file() const {
 Answer FakeDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
                                 const std::string& title) {
   boxes.push_back({text, icon, buttons, title});
+  at_box(Box(boxes.back()));
   return buttons == Buttons::ok ? Answer::ok : take_first(answers, Answer::no);
 }
 

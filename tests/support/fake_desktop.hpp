@@ -43,6 +43,7 @@ class FakeDesktop : public PlatformDesktop {
   bool has_data_folder = true;
   std::uint32_t next_seed = 1;  ///< grows by one at each pick
   std::function<void()> at_pick = [] {};
+  std::function<void(const Box&)> at_box = [](const Box&) {};  ///< while the box is open
   int clock_year = 2026;
   bool opening_works = true;
   bool has_program_folder = true;

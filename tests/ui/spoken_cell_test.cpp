@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "pas_a_pas/view.hpp"
+#include "logic/deduction.hpp"
 
 namespace sdk::test {
 namespace {
@@ -16,12 +16,12 @@ class SpokenCell : public testing::Test {
  protected:
   /// The cell in the middle of the grid, as if the core had written it.
   std::string spoken(const std::string& text, Colour text_colour, Colour back_colour,
-                     int mark = 0) {
+                     Mark mark = Mark::none) {
     grid.make_current(4, 4);
     grid.set_text(text);
     grid.set_text_colour(text_colour);
     grid.set_back_colour(back_colour);
-    grid.set_mark(mark);
+    grid.set_mark(static_cast<int>(mark));
     return spoken_cell(grid, 4, 4, "En");
   }
 
@@ -72,17 +72,17 @@ TEST_F(SpokenCell, TellsCandidatesAsDigits) {
 }
 
 TEST_F(SpokenCell, TellsWhatAHintMarked) {
-  EXPECT_EQ(spoken(candidates, colour::black, 0xFF00FF, mark::removed),
+  EXPECT_EQ(spoken(candidates, colour::black, 0xFF00FF, Mark::removed),
             "row 5, column 5: 1 5 9, reduced");
-  EXPECT_EQ(spoken(candidates, colour::green, 0xC0FFC0, mark::support),
+  EXPECT_EQ(spoken(candidates, colour::green, 0xC0FFC0, Mark::support),
             "row 5, column 5: 1 5 9, pattern");
-  EXPECT_EQ(spoken(candidates, colour::black, 0x00FFFF, mark::second),
+  EXPECT_EQ(spoken(candidates, colour::black, 0x00FFFF, Mark::second),
             "row 5, column 5: 1 5 9, second pattern");
 }
 
 TEST_F(SpokenCell, TellsAPlacedValueFromAnOnlyCandidate) {
-  EXPECT_EQ(spoken("5", colour::black, 0xE0E0E0, mark::value), "row 5, column 5: 5, placed");
-  EXPECT_EQ(spoken(" . \r 5 ", colour::black, 0xE0E0E0, mark::value), "row 5, column 5: 5");
+  EXPECT_EQ(spoken("5", colour::black, 0xE0E0E0, Mark::value), "row 5, column 5: 5, placed");
+  EXPECT_EQ(spoken(" . \r 5 ", colour::black, 0xE0E0E0, Mark::value), "row 5, column 5: 5");
 }
 
 TEST_F(SpokenCell, SpeaksFrench) {

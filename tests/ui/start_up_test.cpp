@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "pas_a_pas/tables.hpp"
+#include "pas_a_pas/techniques.hpp"
 #include "tests/support/game.hpp"
 #include "ui/messages.hpp"
 #include "ui/state_check.hpp"
@@ -56,17 +57,17 @@ TEST_F(StartUp, GivesTheFlagsTheirStartValuesAfterAnEarlierWindowToo) {
 TEST_F(StartUp, EmptiesTheTablesOfTheSolverAfterAnEarlierWindow) {
   solver.running = solver.run_wanted = true;
   solver.GrilleFinie = solver.SuggestionTrouvee = true;
-  solver.LienFort.of(5, 1).insert(2);
-  solver.Couleur.paint(81, 1);
-  solver.step.digits = {7};
+  construit_liens();
+  ASSERT_NE(LienFaible, LinkTable()) << "there is something to forget";
+  Couleur.paint(81, 1);
   FakeDesktop desktop;
   MainWindow second(desktop);
   second.start("");
   EXPECT_FALSE(solver.running || solver.run_wanted);
   EXPECT_FALSE(solver.GrilleFinie || solver.SuggestionTrouvee);
-  EXPECT_TRUE(solver.LienFort.of(5, 1).empty());
-  EXPECT_TRUE(solver.Couleur.coloured().empty());
-  EXPECT_TRUE(solver.step.digits.empty());
+  EXPECT_EQ(LienFort, LinkTable());
+  EXPECT_EQ(LienFaible, LinkTable());
+  EXPECT_TRUE(Couleur.coloured().empty());
 }
 
 TEST_F(StartUp, NamesTheProgramAndItsVersion) {

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "pas_a_pas/order.hpp"
+#include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/view.hpp"
 #include "tools/guide/errors.hpp"
@@ -49,73 +49,63 @@ QImage take_offer(Studio& studio) {
   return image;
 }
 
-/// Follows a hint up to the moment when the position's technique has fired.
-class TechniqueWatch final : public SolverObserver {
- public:
-  TechniqueWatch(const Position& position, std::function<void()> fired)
-      : position_(position), fired_(std::move(fired)) {
-    solver.observer = this;
-  }
-  ~TechniqueWatch() override { solver.observer = nullptr; }
+/// What a hint starts from, with what it has forgotten where the technique needs it.
+Position start_of(const GuidePosition& position) {
+  Position start = solver.position;
+  for (const auto& [cell, smaller, larger] : position.former_pairs)
+    start.pairs(cell.row, cell.column) = {smaller, larger};
+  return start;
+}
 
-  void trying(const Technique& technique) override {
-    if (technique.place != position_.place) return;
-    affiche_candidats();
-    for (int k = 0; k < 81; ++k)
-      texts_[static_cast<std::size_t>(k)] = sudoku().MSR.text(k / 9, k % 9);
-    for (const auto& [cell, smaller, larger] : position_.former_pairs)
-      solver.Paires(cell.row, cell.column) = {smaller, larger};
-  }
+/// Shows the candidates that the event found, and its marks beside those that stand.
+void show(const Event& event) {
+  solver.position = event.before;
+  affiche_candidats();
+  draw(event.deduction.highlights);
+}
 
-  void tried(const Technique& technique, bool changed) override {
-    if (!changed || technique.place != position_.place || !fired_) return;
-    undo_scribbles();
-    std::exchange(fired_, nullptr)();
+/// Shows, step by step, the hint that comes to use the position's technique, up to that step.
+void show_steps(const GuidePosition& position) {
+  globals.ModePasAPas = true;
+  init_candidats();
+  Run hint(start_of(position));
+  while (!hint.is_over()) {
+    const Event& event = hint.next();
+    show(event);
+    if (event.kind == EventKind::removal && event.deduction.technique->place == position.place)
+      return;
   }
-
- private:
-  /// A technique may write in the cells while it searches; the driver's next round, which the
-  /// player sees, writes them all anew.
-  void undo_scribbles() {
-    for (int k = 0; k < 81; ++k)
-      sudoku().MSR.set_text(k / 9, k % 9, texts_[static_cast<std::size_t>(k)]);
-  }
-
-  const Position& position_;
-  std::function<void()> fired_;
-  std::array<std::string, 81> texts_;
-};
+  throw std::logic_error("no hint uses " + std::to_string(position.place));
+}
 
 /// Lays the position out and takes a picture when its technique fires.
-QImage take_at(const Position& position, Studio& studio, const std::function<QImage()>& take) {
+QImage take_at(const GuidePosition& position, Studio& studio, const std::function<QImage()>& take) {
   studio.lay_out(position.grid);
   studio.show_candidates(true);
-  QImage image;
-  TechniqueWatch watch(position, [&] { image = take(); });
-  studio.ask_hint();
+  show_steps(position);
+  QImage image = take();
   studio.show_candidates(false);
-  if (image.isNull()) throw std::logic_error("no hint uses " + std::to_string(position.place));
   return image;
 }
 
-QImage take_technique(const Position& position, Studio& studio) {
+QImage take_technique(const GuidePosition& position, Studio& studio) {
   return take_at(position, studio, [&] { return studio.candidates(); });
 }
 
 /// The first cell of the candidates that is marked so.
-QImage cell_marked(Studio& studio, int mode) {
+QImage cell_marked(Studio& studio, Mark mark) {
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
-    if (sudoku().MSR.cell(cell.row - 1, cell.column - 1).mark == mode)
+    if (sudoku().MSR.cell(cell.row - 1, cell.column - 1).mark == static_cast<int>(mark))
       return studio.cell("MSR", cell.row, cell.column);
   }
-  throw std::logic_error("no cell is marked " + std::to_string(mode));
+  throw std::logic_error("no cell is marked " + std::to_string(static_cast<int>(mark)));
 }
 
-QImage take_mark(Studio& studio, int mode) {
+QImage take_mark(Studio& studio, Mark mark) {
   constexpr int xy_wing = 16;
-  const auto position = std::ranges::find(positions(), xy_wing, &Position::place);
-  return take_at(*position, studio, [&] { return cell_marked(studio, mode); });
+  const auto position = std::ranges::find(positions(), xy_wing, &GuidePosition::place);
+  return take_at(*position, studio, [&] { return cell_marked(studio, mark); });
 }
 
 QImage take_given(Studio& studio, int level) {
@@ -177,11 +167,11 @@ std::vector<Pictures::Shot> Pictures::shots_of_cells() {
   for (int level = 0; level < 5; ++level)
     shots.push_back({QString("given-%1").arg(level), width,
                      [level](Studio& studio) { return take_given(studio, level); }});
-  for (const auto& [name, mode] : {std::pair("mark-removed", mark::removed),
-                                   {"mark-support", mark::support},
-                                   {"mark-second", mark::second},
-                                   {"mark-value", mark::value}})
-    shots.push_back({name, width, [mode](Studio& studio) { return take_mark(studio, mode); }});
+  for (const auto& [name, mark] : {std::pair("mark-removed", Mark::removed),
+                                   {"mark-support", Mark::support},
+                                   {"mark-second", Mark::second},
+                                   {"mark-value", Mark::value}})
+    shots.push_back({name, width, [mark](Studio& studio) { return take_mark(studio, mark); }});
   return shots;
 }
 
@@ -207,7 +197,7 @@ std::vector<Pictures::Shot> Pictures::shots_of_buttons() {
 std::vector<Pictures::Shot> Pictures::shots_of_techniques() {
   constexpr double width = 52;
   std::vector<Shot> shots;
-  for (const Position& position : positions())
+  for (const GuidePosition& position : positions())
     shots.push_back({QString("technique-%1").arg(position.place, 2, 10, QChar('0')), width,
                      [&position](Studio& studio) { return take_technique(position, studio); }});
   return shots;

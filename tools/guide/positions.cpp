@@ -5,8 +5,8 @@
 
 namespace sdk {
 
-const std::vector<Position>& positions() {
-  static const std::vector<Position> all{
+const std::vector<GuidePosition>& positions() {
+  static const std::vector<GuidePosition> all{
       {1, "4...683797689431523.97..648.43.9.86719.876.348763.4.91987615423..1439786634287915"},
       {2, "95871263446..9.1.717.64.89.541.697..39712.4.6826.7491.615287349734951268289436571"},
       {3, "7.3.628196.2819.3718937.2.6518793624294.5.783376248195421.3.97896..8.3.283.92..61"},

@@ -18,7 +18,7 @@ struct FormerPair {
   std::uint8_t smaller, larger;
 };
 
-struct Position {
+struct GuidePosition {
   int place;              ///< of the technique, in the order of the driver
   std::string_view grid;  ///< 81 characters row by row, "." an empty cell
   /// What a hint has forgotten, where the technique needs it.
@@ -26,6 +26,6 @@ struct Position {
 };
 
 /// In the order of the driver; every technique that removes candidates has one.
-const std::vector<Position>& positions();
+const std::vector<GuidePosition>& positions();
 
 }  // namespace sdk

@@ -3,17 +3,23 @@
 
 // sudoku-walk: the hint command as a filter.
 
+#include <algorithm>
+#include <charconv>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include "board/grid_text.hpp"
+#include "tools/walk/line_filter.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace {
 
-constexpr std::string_view usage = "usage: sudoku-walk [--explain en|fr | --signature | --help]\n";
+constexpr std::string_view usage =
+    "usage: sudoku-walk [--explain en|fr] [--jobs N]\n       sudoku-walk --signature | --help\n";
 
 constexpr std::string_view help = R"(
 Plays the hint command on each puzzle, accepting every offer, until nothing more can be found, and
@@ -35,6 +41,8 @@ Output, for each puzzle:
   3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links
 
   --explain en|fr   the same walk in sentences, in English or French
+  --jobs N          works on N puzzles at once, on as many threads; else on as many as the machine has
+                    processors. The output is the same, in the order of the input
   --signature       one number that stands for the walks of the forty built-in puzzles
   --help            this text
 
@@ -43,35 +51,36 @@ and a carriage return at a line's end is ignored. The other lines are still play
 status is 1. A wrong option gives exit status 2.
 )";
 
-/// What is printed for a puzzle.
-struct Output {
-  std::string language;  ///< of the explanation; empty for the plain walk
+/// More threads than any machine of today has processors.
+constexpr int most_jobs = 1024;
 
-  std::string of(sdk::Walker& walker, std::string_view puzzle) const {
-    return language.empty() ? walker.walk(puzzle) : walker.explained(puzzle, language);
-  }
+/// What is asked of the walks.
+struct Order {
+  std::string_view language;  ///< of the explanation, "En" or "Fr"; empty for the plain walk
+  int jobs = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
 };
 
 bool is_skipped(std::string_view line) {
   return line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#';
 }
 
+sdk::Processed process(std::string_view line, long number, std::string_view language) {
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  if (is_skipped(line)) return {};
+  if (const std::string fault = sdk::puzzle_fault(line); !fault.empty())
+    return {"", "error line " + std::to_string(number) + ": " + fault + "\n", true};
+  return {language.empty() ? sdk::walk(line) : sdk::explained_walk(line, language), ""};
+}
+
 /// Plays every line of the standard input; the exit status.
-int play_all(const Output& output) {
-  sdk::Walker walker;
-  int status = 0, number = 0;
-  for (std::string line; std::getline(std::cin, line);) {
-    ++number;
-    if (line.ends_with('\r')) line.pop_back();
-    if (is_skipped(line)) continue;
-    if (const std::string fault = sdk::puzzle_fault(line); !fault.empty()) {
-      std::cerr << "error line " << number << ": " << fault << std::endl;
-      status = 1;
-    } else {
-      std::cout << output.of(walker, line);
-    }
-  }
-  return status;
+int play_all(const Order& order) {
+  const auto process_line = [&](const std::string& line, long number) {
+    return process(line, number, order.language);
+  };
+  const auto [had_faults, failure] =
+      sdk::filter_lines(std::cin, std::cout, std::cerr, order.jobs, process_line);
+  if (!failure.empty()) std::cerr << "error standard output: " << failure << '\n';
+  return had_faults || !failure.empty() ? 1 : 0;
 }
 
 int refuse() {
@@ -79,24 +88,42 @@ int refuse() {
   return 2;
 }
 
-int explain(const std::vector<std::string>& arguments) {
-  if (arguments.size() != 2) return refuse();
-  if (arguments[1] == "en") return play_all({"En"});
-  if (arguments[1] == "fr") return play_all({"Fr"});
-  return refuse();
+bool read_language(std::string_view word, Order& order) {
+  if (word == "en") order.language = "En";
+  if (word == "fr") order.language = "Fr";
+  return !order.language.empty();
+}
+
+bool read_jobs(std::string_view word, Order& order) {
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), order.jobs);
+  return error == std::errc() && end == word.data() + word.size() && order.jobs >= 1 &&
+         order.jobs <= most_jobs;
+}
+
+/// Options and their values by turns; nothing when one of them is none.
+std::optional<Order> read_order(const std::vector<std::string>& arguments) {
+  Order order;
+  if (arguments.size() % 2 != 0) return std::nullopt;
+  for (std::size_t i = 0; i < arguments.size(); i += 2) {
+    const bool is_read = arguments[i] == "--explain"
+                             ? read_language(arguments[i + 1], order)
+                             : arguments[i] == "--jobs" && read_jobs(arguments[i + 1], order);
+    if (!is_read) return std::nullopt;
+  }
+  return order;
 }
 
 int run(const std::vector<std::string>& arguments) {
-  if (arguments.empty()) return play_all({});
-  if (arguments[0] == "--explain") return explain(arguments);
-  if (arguments.size() != 1) return refuse();
-  if (arguments[0] == "--signature")
-    std::cout << sdk::library_signature() << '\n';
-  else if (arguments[0] == "--help")
+  if (arguments == std::vector<std::string>{"--help"}) {
     std::cout << usage << help;
-  else
-    return refuse();
-  return 0;
+    return 0;
+  }
+  if (arguments == std::vector<std::string>{"--signature"}) {
+    std::cout << sdk::library_signature() << '\n';
+    return 0;
+  }
+  const std::optional<Order> order = read_order(arguments);
+  return order ? play_all(*order) : refuse();
 }
 
 }  // namespace

@@ -4,111 +4,17 @@
 #include "tools/walk/walk.hpp"
 
 #include <algorithm>
-#include <utility>
 
-#include "pas_a_pas/order.hpp"
-#include "pas_a_pas/tables.hpp"
-#include "pas_a_pas/view.hpp"
-#include "puzzles/library.hpp"
-#include "screen/errors.hpp"
-#include "ui/explanations.hpp"
+#include "board/grid_text.hpp"
+#include "explanations/explanations.hpp"
+#include "puzzles/stock/entry_text.hpp"
+#include "puzzles/stock/library_table.hpp"
+#include "tools/walk/marks.hpp"
+#include "tools/walk/play.hpp"
 
 namespace sdk {
 
-Answer YesDesktop::message_box(const std::string&, Icon, Buttons buttons, const std::string&) {
-  return buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
-}
-
-PageSize YesDesktop::printer_page() { throw RuntimeError("printer", "there is none"); }
-
-std::filesystem::path YesDesktop::data_folder() {
-  throw RuntimeError("data folder", "there is none");
-}
-
 namespace {
-
-std::string name_of(Cell cell) {
-  return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column);
-}
-
-std::string marked_cells(int mode) {
-  std::string names;
-  for (int number = 1; number <= 81; ++number) {
-    const Cell cell = cell_at(number);
-    if (sudoku().MSR.cell(cell.row - 1, cell.column - 1).mark != mode) continue;
-    if (!names.empty()) names += ',';
-    names += name_of(cell);
-  }
-  return names;
-}
-
-std::string marks() {
-  return "3=" + marked_cells(mark::removed) + " 4=" + marked_cells(mark::support) +
-         " 6=" + marked_cells(mark::second);
-}
-
-/// Writes the walk's lines as the run goes on.
-class WalkText final : public SolverObserver {
- public:
-  void trying(const Technique&) override {
-    for (int number = 1; number <= 81; ++number)
-      before_[static_cast<std::size_t>(number)] = solver.Candidats.digits(cell_at(number));
-  }
-
-  void tried(const Technique& technique, bool changed) override {
-    if (!changed) return;
-    text += technique.place < 10 ? "T0" : "T";
-    text += std::to_string(technique.place) + eliminations() + "\n";
-  }
-
-  void offered(Single kind, Cell cell, int digit) override {
-    text += (kind == Single::naked ? "N " : "H ") + name_of(cell) + "=" + std::to_string(digit) +
-            " | " + marks() + "\n";
-  }
-
-  void ended(RunEnd end) override { text += "E " + name_of_end(end) + " | " + marks() + "\n"; }
-
-  std::string text;
-
- private:
-  std::string eliminations() const {
-    std::string items;
-    for (int number = 1; number <= 81; ++number) {
-      const Cell cell = cell_at(number);
-      const NineSet gone =
-          before_[static_cast<std::size_t>(number)] - solver.Candidats.digits(cell);
-      if (gone.empty()) continue;
-      items += " " + name_of(cell) + "-";
-      for (const int digit : gone) items += std::to_string(digit);
-    }
-    return items;
-  }
-
-  static std::string name_of_end(RunEnd end) {
-    if (end == RunEnd::completed) return "completed";
-    if (end == RunEnd::exhausted) return "exhausted";
-    return "dead " + name_of(cell_at(*solver.step.cells_as(Role::pattern).begin()));
-  }
-
-  std::array<NineSet, 82> before_{};
-};
-
-/// Writes the same in sentences.
-class ExplainedText final : public SolverObserver {
- public:
-  explicit ExplainedText(std::string_view language) : language_(language) {}
-
-  void tried(const Technique&, bool changed) override {
-    if (changed) text += explain(solver.step, language_) + "\n";
-  }
-  void offered(Single, Cell, int) override { text += explain(solver.step, language_) + "\n"; }
-  void ended(RunEnd end) override { text += explain(end, solver.step, language_) + "\n"; }
-
-  std::string text;
-
- private:
-  std::string_view language_;
-};
 
 std::string grid_line(std::string_view puzzle) {
   std::string grid(puzzle);
@@ -116,41 +22,84 @@ std::string grid_line(std::string_view puzzle) {
   return "grid " + grid + "\n";
 }
 
+std::string two_digits(int place) { return (place < 10 ? "0" : "") + std::to_string(place); }
+
+/// For each cell, row by row, the digits that it loses: " r1c3-38 r1c5-3".
+std::string eliminations(const Deduction& deduction) {
+  CellSet losers;
+  for (const CellSet& cells : deduction.removed) losers |= cells;
+  std::string items;
+  for (const int cell : losers) {
+    items += " " + name_of(cell_at(cell)) + "-";
+    for (int digit = 1; digit <= 9; ++digit)
+      if (deduction.losers_of(digit).contains(cell)) items += static_cast<char>('0' + digit);
+  }
+  return items;
+}
+
+std::string offer(const Deduction& deduction) {
+  const auto [cell, digit] = *deduction.placement;
+  return (is_naked_single(deduction) ? "N " : "H ") + name_of(cell) + "=" + std::to_string(digit);
+}
+
+std::string dead_end(const Deduction& deduction) {
+  return "E dead " + name_of(cell_at(*deduction.cells_as(Role::pattern).begin()));
+}
+
+/// The line of an event up to the marks.
+std::string told(const Event& event) {
+  switch (event.kind) {
+    case EventKind::removal:
+      return "T" + two_digits(event.deduction.technique->place) + eliminations(event.deduction);
+    case EventKind::offer:
+      return offer(event.deduction);
+    case EventKind::completed:
+      return "E completed";
+    case EventKind::dead:
+      return dead_end(event.deduction);
+    case EventKind::exhausted:
+      return "E exhausted";
+  }
+  return "";
+}
+
+/// Writes the lines of events one after the other.
+class WalkText {
+ public:
+  explicit WalkText(std::string_view puzzle) : text_(grid_line(puzzle)) {}
+
+  void add(const Event& event) {
+    marks_.draw(event);
+    text_ += told(event);
+    if (event.is_last()) {
+      text_ += " | " + marks_.text();
+      marks_ = {};  // a new hint takes all marks away
+    }
+    text_ += '\n';
+  }
+
+  std::string text() && { return std::move(text_); }
+
+ private:
+  std::string text_;
+  MarkedCells marks_;
+};
+
 }  // namespace
 
-Walker::Walker() { window_.start(""); }
-
-void Walker::play(std::string_view puzzle, SolverObserver& observer) {
-  for (int row = 0; row < 9; ++row)
-    for (int column = 0; column < 9; ++column) {
-      const char c = puzzle[static_cast<std::size_t>(row * 9 + column)];
-      window_.MSF.set_text(row, column, std::string(1, c == '.' || c == '0' ? ' ' : c));
-    }
-  solver.observer = &observer;
-  window_.click(Control::Command8);
-  solver.observer = nullptr;
+std::string walk(std::string_view puzzle) {
+  WalkText text(puzzle);
+  play(puzzle_of(puzzle), [&](const Event& event) { text.add(event); });
+  return std::move(text).text();
 }
 
-std::string Walker::walk(std::string_view puzzle) {
-  WalkText walk;
-  play(puzzle, walk);
-  return grid_line(puzzle) + walk.text;
-}
-
-std::string Walker::explained(std::string_view puzzle, std::string_view language) {
-  ExplainedText walk(language);
-  play(puzzle, walk);
-  return grid_line(puzzle) + walk.text;
+std::string explained_walk(std::string_view puzzle, std::string_view language) {
+  std::string text = grid_line(puzzle);
+  play(puzzle_of(puzzle), [&](const Event& event) { text += explain(event, language) + "\n"; });
+  return text;
 }
 
 namespace {
-
-std::string shown_puzzle(const LibraryEntry& entry) {
-  std::string puzzle(entry.solution);
-  for (std::size_t k = 0; k < puzzle.size(); ++k)
-    if (entry.mask[k] == '0') puzzle[k] = '.';
-  return puzzle;
-}
 
 /// 64-bit FNV-1a.
 class Checksum {
@@ -167,10 +116,8 @@ class Checksum {
 }  // namespace
 
 std::uint64_t library_signature() {
-  Walker walker;
   Checksum checksum;
-  for (const LibraryEntry& entry : BibliothequeGrilles)
-    checksum.add(walker.walk(shown_puzzle(entry)));
+  for (const LibraryEntry& entry : BibliothequeGrilles) checksum.add(walk(puzzle_text(entry)));
   return checksum.value();
 }
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -12,7 +13,7 @@
 #include <utility>
 
 #include "board/cells.hpp"
-#include "puzzles/library.hpp"
+#include "puzzles/stock/entry_text.hpp"
 #include "tests/support/tool.hpp"
 #include "tools/walk/walk.hpp"
 
@@ -106,12 +107,9 @@ TEST(Walk, EveryLineHasOneOfTheForms) {
                                     "H R=d | d= d= d=",
                                     "E completed | d= d= d=",
                                     "E exhausted | d= d= d="};
-  Walker walker;
   for (const LibraryEntry& entry : BibliothequeGrilles) {
-    std::string puzzle(entry.solution);
-    for (std::size_t k = 0; k < 81; ++k)
-      if (entry.mask[k] == '0') puzzle[k] = '.';
-    std::istringstream lines(walker.walk(puzzle));
+    const std::string puzzle = puzzle_text(entry);
+    std::istringstream lines(sdk::walk(puzzle));
     std::string line;
     std::getline(lines, line);
     EXPECT_EQ(line, "grid " + puzzle);
@@ -166,7 +164,58 @@ TEST(Walk, ACarriageReturnWithinALineIsAFault) {
   EXPECT_EQ(errors("12345\\r\\r\\n"), "error line 1: 81 characters expected, 6 found\n");
 }
 
+// Several at once
+
+/// The library's puzzles many times over, with lines that are none among them.
+std::string long_input() {
+  std::string input;
+  for (int times = 0; times < 12; ++times) {
+    for (const LibraryEntry& entry : BibliothequeGrilles) input += puzzle_text(entry) + "\\n";
+    input += "12345\\n# a comment\\n";
+  }
+  return input;
+}
+
+TEST(Walk, OnSeveralThreadsIsTheSameInTheOrderOfTheInput) {
+  const std::string input = long_input();
+  const ToolRun one = walk(input, "--jobs 1 2>/dev/null");
+  EXPECT_EQ(std::ranges::count(one.output, 'g'), 12 * 40);
+  EXPECT_EQ(one.status, 1);
+  for (const char* jobs : {"--jobs 2", "--jobs 7", ""}) {
+    const ToolRun several = walk(input, std::string(jobs) + " 2>/dev/null");
+    EXPECT_EQ(several.output, one.output) << jobs;
+    EXPECT_EQ(several.status, 1) << jobs;
+    EXPECT_EQ(walk(input, std::string(jobs) + " 2>&1 >/dev/null").output,
+              walk(input, "--jobs 1 2>&1 >/dev/null").output)
+        << jobs;
+  }
+}
+
+TEST(Walk, AnswersBeforeTheInputEnds) {
+  // The second line comes only once the first one's walk has been read.
+  const ToolRun run = run_tool(
+      "folder=$(mktemp -d); input=$folder/input; mkfifo $input; "
+      "(" SUDOKU_WALK
+      " < $input | (read line; echo \"$line\"; touch $folder/read; cat >/dev/null)) & "
+      "exec 3> $input; echo '" +
+      no_digit +
+      "' >&3; for i in $(seq 100); do [ -e $folder/read ] && break; sleep 0.1; done; "
+      "[ -e $folder/read ] && echo in time; exec 3>&-; wait; rm -r $folder");
+  EXPECT_EQ(run.output, "grid " + no_digit + "\nin time\n");
+}
+
+TEST(Walk, SaysThatItsOutputCannotBeWritten) {
+  const ToolRun run = walk(nearly_full + "\\n", "2>&1 >/dev/full");
+  EXPECT_EQ(run.output, "error standard output: No space left on device\n");
+  EXPECT_EQ(run.status, 1);
+}
+
 // Options
+
+TEST(Walk, TakesOptionsInAnyOrder) {
+  EXPECT_EQ(walk(nearly_full + "\\n", "--jobs 3 --explain en").output,
+            walk(nearly_full + "\\n", "--explain en --jobs 3").output);
+}
 
 TEST(Walk, ExplainsInEnglishAndFrench) {
   const std::string line = nearly_full + "\\n";
@@ -204,8 +253,9 @@ TEST(Walk, TheSignatureIsOneNumber) {
 }
 
 TEST(Walk, RefusesOtherArguments) {
-  for (const char* arguments : {"--explain", "--explain de", "--explain en fr", "--walk", "file",
-                                "--help me", "--signature 2"}) {
+  for (const char* arguments :
+       {"--explain", "--explain de", "--explain en fr", "--walk", "file", "--help me",
+        "--signature 2", "--jobs", "--jobs 0", "--jobs -1", "--jobs 2x", "--jobs 99999"}) {
     const ToolRun run = run_tool(SUDOKU_WALK " " + std::string(arguments));
     EXPECT_EQ(run.status, 2) << arguments;
     EXPECT_EQ(run.output.find("usage: sudoku-walk"), 0u) << arguments;

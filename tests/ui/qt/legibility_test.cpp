@@ -43,21 +43,21 @@ constexpr NamedColour puzzle_texts[] = {
 
 struct NamedMark {
   const char* name;
-  int mode;
+  Mark mark;
 };
 
 constexpr NamedMark marks[] = {
-    {"candidates", mark::none},
-    {"candidates, mark 3", mark::removed},
-    {"candidates, mark 4", mark::support},
-    {"candidates, mark 5", mark::value},
-    {"candidates, mark 6", mark::second},
+    {"candidates", Mark::none},
+    {"candidates, mark 3", Mark::removed},
+    {"candidates, mark 4", Mark::support},
+    {"candidates, mark 5", Mark::value},
+    {"candidates, mark 6", Mark::second},
 };
 
 /// What marque_case makes of an empty cell of `MSR`.
-DisplayCell marked(MainWindow& window, int mode) {
+DisplayCell marked(MainWindow& window, Mark mark) {
   window.MSR.set_text(0, 0, " ");
-  marque_case(1, 1, mode);
+  marque_case(1, 1, mark);
   return window.MSR.cell(0, 0);
 }
 
@@ -69,8 +69,8 @@ void add_puzzle_pairs(QList<Pair>& pairs) {
 
 /// A new round of a hint turns texts black and leaves the marks.
 void add_candidate_pairs(QList<Pair>& pairs, MainWindow& window) {
-  for (const auto& [name, mode] : marks) {
-    const DisplayCell cell = marked(window, mode);
+  for (const auto& [name, mark] : marks) {
+    const DisplayCell cell = marked(window, mark);
     if (cell.text_colour != colour::black)
       pairs << Pair{name, cell.back_colour, "green", cell.text_colour, candidates_font_size};
     pairs << Pair{name, cell.back_colour, "black", colour::black, candidates_font_size};

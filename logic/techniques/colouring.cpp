@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Simple colouring: along the strong links of a digit two colours alternate, and exactly one of
+// them holds it. A cell that sees both cannot (trap); a colour that sees itself is false (wrap).
+
+#include "logic/techniques/colouring.hpp"
+
+#include <algorithm>
+#include <iterator>
+
+#include "logic/draft.hpp"
+#include "logic/techniques/finders.hpp"
+
+namespace sdk {
+
+void spread_colours(ColourTable& colours, const LinkTable& strong, int cell, int digit) {
+  for (const int linked : strong.of(digit, cell)) {
+    if (colours(linked) != 0) continue;
+    colours.paint(linked, -colours(cell));
+    spread_colours(colours, strong, linked, digit);
+  }
+}
+
+namespace {
+
+Draft begin_draft(const Position& position, const ColourTable& colours, int digit, Rule rule) {
+  Draft draft(position);
+  draft.deduction.rule = rule;
+  draft.deduction.digits = {digit};
+  draft.deduction.cells_as(Role::first_colour) = colours.cells(1);
+  draft.deduction.cells_as(Role::second_colour) = colours.cells(-1);
+  return draft;
+}
+
+bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
+
+}  // namespace
+
+std::optional<Deduction> find_trap(const Position& position, const ColourTable& colours,
+                                   int digit) {
+  Draft draft = begin_draft(position, colours, digit, Rule::trap);
+  for (const int cell : position.candidates.cells_with(digit) - colours.coloured())
+    if (see_each_other(cell, colours.cells(1)) && see_each_other(cell, colours.cells(-1)))
+      draft.eliminate_shown(cell_at(cell), {digit});
+  if (!draft.deduction.removes_something()) return std::nullopt;
+  return std::move(draft).finished();
+}
+
+namespace {
+
+/// Unlike the trap, the wrap gives no marks of its own: the display of the colours shows it.
+Deduction remove_colour(const Position& position, const ColourTable& colours, int colour,
+                        int digit) {
+  Draft draft = begin_draft(position, colours, digit, Rule::wrap);
+  for (const int number : colours.cells(colour)) {
+    draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
+    draft.eliminate(cell_at(number), {digit});
+  }
+  return std::move(draft).finished();
+}
+
+}  // namespace
+
+std::optional<Deduction> find_wrap(const Position& position, const ColourTable& colours,
+                                   int digit) {
+  for (const int cell : colours.coloured())
+    if (see_each_other(cell, colours.cells(colours(cell))))
+      return remove_colour(position, colours, colours(cell), digit);
+  return std::nullopt;
+}
+
+namespace {
+
+Mark mark_of(int colour) {
+  if (colour == 0) return Mark::none;
+  return colour == 1 ? Mark::support : Mark::second;
+}
+
+}  // namespace
+
+std::vector<Highlight> colour_marks(const Position& position, const ColourTable& colours) {
+  std::vector<Highlight> marks;
+  for (int number = 1; number <= 81; ++number) {
+    const Cell cell = cell_at(number);
+    if (position.candidates.value(cell) == 0)
+      marks.push_back({cell, mark_of(colours(number)), {}, Emphasis::support});
+  }
+  return marks;
+}
+
+namespace {
+
+ColourTable colours_from(const Position& position, int cell, int digit) {
+  const LinkTable& strong = position.links.strong;
+  const int linked = *strong.of(digit, cell).begin();
+  ColourTable colours;
+  colours.paint(cell, 1);
+  colours.paint(linked, -1);
+  spread_colours(colours, strong, cell, digit);
+  spread_colours(colours, strong, linked, digit);
+  return colours;
+}
+
+std::optional<Deduction> find_with(const Position& position, const ColourTable& colours,
+                                   int digit) {
+  auto found = find_trap(position, colours, digit);
+  if (!found) found = find_wrap(position, colours, digit);
+  if (found)
+    std::ranges::copy(colour_marks(position, colours), std::back_inserter(found->highlights));
+  return found;
+}
+
+/// A chain on which both rules failed has only one colouring, up to which colour is which: had it
+/// two cells of one colour linked, the wrap would have applied. So its other links would fail as
+/// well, and each chain is tried from its first link only.
+std::optional<Deduction> find_of(const Position& position, int digit) {
+  CellSet tried;
+  for (int cell = 1; cell <= 81; ++cell) {
+    if (position.links.strong.of(digit, cell).empty() || tried.contains(cell)) continue;
+    const ColourTable colours = colours_from(position, cell, digit);
+    if (auto found = find_with(position, colours, digit)) return found;
+    tried |= colours.coloured();
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Deduction> find_simple_colouring(const Position& position) {
+  for (int digit = 1; digit <= 9; ++digit)
+    if (auto found = find_of(position, digit)) return found;
+  return std::nullopt;
+}
+
+}  // namespace sdk

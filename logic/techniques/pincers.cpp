@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "logic/techniques/pincers.hpp"
+
+#include "logic/draft.hpp"
+
+namespace sdk {
+
+CellSet pincers_with(const Position& position, Cell pivot, const CellSet& two_candidates,
+                     int digit1, int digit2) {
+  return two_candidates & peers_of(pivot) & position.candidates.cells_with(digit1) &
+         position.candidates.cells_with(digit2);
+}
+
+namespace {
+
+void clear_target(Draft& draft, const PivotWing& wing, Cell pincer_a, Cell pincer_b, Cell target) {
+  draft.support(wing.pivot, Role::pivot, wing.pivot_digits);
+  for (const Cell pincer : {pincer_a, pincer_b})
+    draft.support(pincer, Role::pincer, NineSet::all(), Mark::second);
+  draft.eliminate_shown(target, {wing.digit});
+}
+
+}  // namespace
+
+std::optional<Deduction> deduce_from(const Position& position, const PivotWing& wing) {
+  Draft draft(position);
+  CellSet targets = wing.targets & position.candidates.cells_with(wing.digit);
+  for (const int a : wing.pincers_a)
+    for (const int b : wing.pincers_b)
+      for (const int target : targets& peers_of(a) & peers_of(b)) {
+        clear_target(draft, wing, cell_at(a), cell_at(b), cell_at(target));
+        targets.erase(target);
+      }
+  if (!draft.deduction.removes_something()) return std::nullopt;
+  draft.deduction.digits = wing.pivot_digits;
+  return std::move(draft).finished();
+}
+
+}  // namespace sdk

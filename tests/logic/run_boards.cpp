@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Registers every case of the files of drawn boards as a test of its own and runs them.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+
+#include "tests/logic/board_call.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+std::string content(const std::filesystem::path& path) {
+  std::ifstream stream(path, std::ios::binary);
+  if (!stream) throw Malformed(path.string() + " cannot be read");
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+class BoardTest : public testing::Test {
+ public:
+  BoardTest(std::shared_ptr<const BoardFile> file, const BoardCase& board)
+      : file_(std::move(file)), board_(board) {}
+
+  void TestBody() override {
+    if (const std::string fault = differences(*file_, board_); !fault.empty())
+      ADD_FAILURE() << fault;
+  }
+
+ private:
+  std::shared_ptr<const BoardFile> file_;
+  const BoardCase& board_;  ///< one of the file's
+};
+
+void register_cases(const std::filesystem::path& path) {
+  const auto file =
+      std::make_shared<const BoardFile>(parse_boards(content(path), path.filename().string()));
+  for (const BoardCase& board : file->cases)
+    testing::RegisterTest(
+        ("Boards/" + std::string(file->technique->id)).c_str(), board.name.c_str(), nullptr,
+        nullptr, path.string().c_str(), 1,
+        [file, &board]() -> testing::Test* { return new BoardTest(file, board); });
+}
+
+}  // namespace
+
+}  // namespace sdk::test
+
+/// Arguments: files of drawn boards, and Google Test's own. Exits with 2 when a file is malformed.
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  try {
+    for (int i = 1; i < argc; ++i) sdk::test::register_cases(argv[i]);
+  } catch (const sdk::test::Malformed& fault) {
+    std::cerr << fault.what() << '\n';
+    return 2;
+  }
+  return RUN_ALL_TESTS();
+}
