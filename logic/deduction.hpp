@@ -12,6 +12,7 @@
 #include "board/cell_set.hpp"
 #include "board/cells.hpp"
 #include "board/nine_set.hpp"
+#include "logic/premise.hpp"
 
 namespace sdk {
 
@@ -82,6 +83,12 @@ struct Deduction {
   std::array<CellSet, role_count> cells{};  ///< by role
   std::array<CellSet, 10> removed{};        ///< by digit: the cells that lose it
   std::optional<Placement> placement{};
+  /// All that the conclusion needs; for fish every base line, for colouring every link that joins
+  /// the cells it uses.
+  std::vector<Premise> premises{};
+  /// The premises imply the conclusion by nothing but that a cell holds one digit and cells that
+  /// see each other differ.
+  bool certain = true;
   std::vector<Highlight> highlights{};  ///< in the order in which they are drawn
 
   CellSet& cells_as(Role role) { return cells[static_cast<std::size_t>(role)]; }

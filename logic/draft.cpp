@@ -3,6 +3,8 @@
 
 #include "logic/draft.hpp"
 
+#include <algorithm>
+
 namespace sdk {
 
 NineSet Draft::digits_left(Cell cell) const {
@@ -34,6 +36,19 @@ void Draft::eliminate_shown(Cell cell, NineSet digits) {
 void Draft::clear_column_outside_box(int digit, int column, int box) {
   for (const int row : NineSet::all() - places_in_box(UnitKind::column, box))
     eliminate({row, column}, {digit});
+}
+
+void Draft::rest_on(Cell cell) { add(CellHolds{cell, position_.candidates.digits(cell)}); }
+
+void Draft::rest_on(Unit unit, int digit) {
+  CellSet cells;
+  for (const int place : position_.candidates.places(unit, digit)) cells.insert(unit.cell(place));
+  add(DigitInUnit{unit, digit, cells});
+}
+
+void Draft::add(const Premise& premise) {
+  std::vector<Premise>& premises = deduction.premises;
+  if (std::ranges::find(premises, premise) == premises.end()) premises.push_back(premise);
 }
 
 }  // namespace sdk

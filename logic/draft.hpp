@@ -35,10 +35,19 @@ class Draft {
   /// Every row outside the box loses the digit in the column; nothing is shown.
   void clear_column_outside_box(int digit, int column, int box);
 
+  // What the deduction rests on stands in it once, however often it is noted.
+
+  /// The deduction rests on what the cell can hold.
+  void rest_on(Cell cell);
+  /// It rests on where the digit can go in the unit.
+  void rest_on(Unit unit, int digit);
+
   /// The deduction; the draft is used up.
   Deduction finished() && { return std::move(deduction); }
 
  private:
+  void add(const Premise& premise);
+
   const Position& position_;
 };
 

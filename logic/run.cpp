@@ -38,7 +38,8 @@ const Event& Run::next() {
 }
 
 const Event& Run::add(EventKind kind, Deduction deduction) {
-  return events_.emplace_back(Event{kind, position_, std::move(deduction)});
+  const bool certain = deduction.certain && (events_.empty() || events_.back().certain);
+  return events_.emplace_back(Event{kind, position_, std::move(deduction), certain});
 }
 
 const Event& Run::remove(Deduction deduction) {

@@ -26,6 +26,8 @@ struct Event {
   EventKind kind;
   Position before;      ///< recomputed, and nothing of the event done to it
   Deduction deduction;  ///< of a dead cell its mark alone; empty when completed or exhausted
+  /// It is certain by itself, and so was all that the run found before it, which it may rest on.
+  bool certain = true;
 
   bool is_last() const { return kind != EventKind::removal; }
 };

@@ -40,6 +40,7 @@ bool is_avoidable(const Position& position, const OpenRectangle& corners, int pa
 Deduction deduce(const Position& position, const OpenRectangle& corners, int digit, int x, int y) {
   Draft draft(position);
   draft.deduction.digits = {x, y};
+  draft.deduction.certain = false;  // no fact of the candidates holds what the corners had before
   for (const Cell solved : {corners.partner, corners.neighbour1, corners.neighbour2})
     draft.support(solved, Role::pattern, {});
   draft.deduction.cells_as(Role::roof).insert(corners.open);

@@ -22,6 +22,7 @@ Deduction deduce(const Position& position, Unit line, Unit box, int digit) {
   draft.deduction.unit = line;
   draft.deduction.other_unit = box;
   draft.deduction.digits = {digit};
+  draft.rest_on(line, digit);
   for (const int place : position.candidates.places(box, digit)) {
     const Cell cell = box.cell(place);
     if (line.contains(cell))

@@ -10,6 +10,7 @@
 #include <iterator>
 
 #include "logic/draft.hpp"
+#include "logic/techniques/chains.hpp"
 #include "logic/techniques/finders.hpp"
 
 namespace sdk {
@@ -33,6 +34,13 @@ Draft begin_draft(const Position& position, const ColourTable& colours, int digi
   return draft;
 }
 
+/// The deduction rests on a chain between two cells of both colours that the cell sees.
+void rest_on_seen(Draft& draft, const Position& position, const ColourTable& colours, int cell,
+                  int digit) {
+  const CellSet first = colours.cells(1) & peers_of(cell);
+  rest_on_chain(draft, position, *first.begin(), colours.cells(-1) & peers_of(cell), digit);
+}
+
 bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
 
 }  // namespace
@@ -41,19 +49,23 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
                                    int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::trap);
   for (const int cell : position.candidates.cells_with(digit) - colours.coloured())
-    if (see_each_other(cell, colours.cells(1)) && see_each_other(cell, colours.cells(-1)))
+    if (see_each_other(cell, colours.cells(1)) && see_each_other(cell, colours.cells(-1))) {
       draft.eliminate_shown(cell_at(cell), {digit});
+      rest_on_seen(draft, position, colours, cell, digit);
+    }
   if (!draft.deduction.removes_something()) return std::nullopt;
   return std::move(draft).finished();
 }
 
 namespace {
 
-/// Unlike the trap, the wrap gives no marks of its own: the display of the colours shows it.
-Deduction remove_colour(const Position& position, const ColourTable& colours, int colour,
+/// One of the cells that clash joins all of their colour. Unlike the trap, the wrap gives no marks
+/// of its own: the display of the colours shows it.
+Deduction remove_colour(const Position& position, const ColourTable& colours, int clashing,
                         int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
-  for (const int number : colours.cells(colour)) {
+  for (const int number : colours.cells(colours(clashing))) {
+    rest_on_chain(draft, position, number, {clashing}, digit);
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
     draft.eliminate(cell_at(number), {digit});
   }
@@ -66,7 +78,7 @@ std::optional<Deduction> find_wrap(const Position& position, const ColourTable& 
                                    int digit) {
   for (const int cell : colours.coloured())
     if (see_each_other(cell, colours.cells(colours(cell))))
-      return remove_colour(position, colours, colours(cell), digit);
+      return remove_colour(position, colours, cell, digit);
   return std::nullopt;
 }
 

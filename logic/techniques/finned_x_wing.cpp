@@ -24,6 +24,23 @@ bool has_fins(const Position& position, const FinnedWing& wing) {
   return !fins_on(position, wing, 0).empty() || !fins_on(position, wing, 1).empty();
 }
 
+/// The target sees every place of the digit on the base line.
+bool sees_whole_line(const Position& position, const FinnedWing& wing, std::size_t line,
+                     Cell target) {
+  for (const int place : position.candidates.places(wing.base_line(line), wing.digit))
+    if (!peers_of(target).contains(wing.base_line(line).cell(place))) return false;
+  return true;
+}
+
+/// The deduction rests on both base lines, or on one that a missing corner leaves to the target's
+/// sight alone.
+void rest_on_needed(Draft& draft, const Position& position, const FinnedWing& wing, Cell target) {
+  for (const std::size_t line : {0, 1})
+    if (sees_whole_line(position, wing, line, target))
+      return draft.rest_on(wing.base_line(line), wing.digit);
+  for (const std::size_t line : {0, 1}) draft.rest_on(wing.base_line(line), wing.digit);
+}
+
 void show_fins(Draft& draft, const Position& position, const FinnedWing& wing) {
   for (const std::size_t line : {0, 1})
     for (const int place : fins_on(position, wing, line))
@@ -38,6 +55,7 @@ Deduction deduce_from(const Position& position, const FinnedWing& wing, Cell tar
   draft.deduction.unit = wing.base_line(0);
   draft.deduction.other_unit = wing.base_line(1);
   draft.deduction.digits = {wing.digit};
+  rest_on_needed(draft, position, wing, target);
   for (const std::size_t line : {0, 1})
     for (const std::size_t cover : {0, 1})
       draft.support(wing.corner(line, cover), Role::pattern, {wing.digit});

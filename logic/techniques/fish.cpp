@@ -37,6 +37,7 @@ Deduction deduce_from(const Position& position, const Fish& fish) {
   Draft draft(position);
   draft.deduction.unit = {fish.base, fish.base_lines.first()};
   draft.deduction.digits = {fish.digit};
+  for (const int line : fish.base_lines) draft.rest_on({fish.base, line}, fish.digit);
   show_crossings(draft, position, fish);
   clear_covers(draft, position, fish);
   return std::move(draft).finished();

@@ -30,6 +30,7 @@ std::optional<Deduction> empty_pair_cells(const Position& position, Unit unit, N
   Draft draft(position);
   draft.deduction.unit = unit;
   draft.deduction.digits = digits;
+  for (const int digit : digits) draft.rest_on(unit, digit);
   Position after = position;
   for (const int place : places) {
     const Cell cell = unit.cell(place);

@@ -34,6 +34,7 @@ Deduction deduce(const Position& position, Unit unit, NineSet places, NineSet di
   Draft draft(position);
   draft.deduction.unit = unit;
   draft.deduction.digits = digits;
+  for (const int digit : digits) draft.rest_on(unit, digit);
   for (const int place : places) {
     draft.support(unit.cell(place), Role::pattern, digits);
     draft.eliminate(unit.cell(place), NineSet::all() - digits);

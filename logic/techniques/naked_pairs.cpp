@@ -25,6 +25,7 @@ Deduction deduce(const Position& position, Unit unit, NineSet pair_places, NineS
   Draft draft(position);
   draft.deduction.unit = unit;
   draft.deduction.digits = digits;
+  for (const int place : pair_places) draft.rest_on(unit.cell(place));
   for (int place = 1; place <= 9; ++place) {
     const Cell cell = unit.cell(place);
     if (pair_places.contains(place))

@@ -73,6 +73,7 @@ Deduction deduce(const Position& position, Unit unit, NineSet digits) {
     else if (!(position.candidates.digits(cell) & digits).empty())
       draft.eliminate_shown(cell, digits);
   }
+  for (const int cell : draft.deduction.cells_as(Role::pattern)) draft.rest_on(cell_at(cell));
   return std::move(draft).finished();
 }
 

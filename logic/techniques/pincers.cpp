@@ -15,6 +15,26 @@ CellSet pincers_with(const Position& position, Cell pivot, const CellSet& two_ca
 
 namespace {
 
+/// Every target sees a pincer of either list that is among these.
+bool reach_all(const PivotWing& wing, const CellSet& pincers, const CellSet& targets) {
+  for (const int target : targets) {
+    const CellSet seen = pincers & peers_of(target);
+    if ((seen & wing.pincers_a).empty() || (seen & wing.pincers_b).empty()) return false;
+  }
+  return true;
+}
+
+/// The deduction rests on the pivot, and on as few pincers as all targets need.
+void rest_on_used(Draft& draft, const PivotWing& wing) {
+  CellSet pincers = draft.deduction.cells_as(Role::pincer);
+  for (const int pincer : draft.deduction.cells_as(Role::pincer)) {
+    const CellSet others = pincers - CellSet{pincer};
+    if (reach_all(wing, others, draft.deduction.losers_of(wing.digit))) pincers = others;
+  }
+  draft.rest_on(wing.pivot);
+  for (const int pincer : pincers) draft.rest_on(cell_at(pincer));
+}
+
 void clear_target(Draft& draft, const PivotWing& wing, Cell pincer_a, Cell pincer_b, Cell target) {
   draft.support(wing.pivot, Role::pivot, wing.pivot_digits);
   for (const Cell pincer : {pincer_a, pincer_b})
@@ -35,6 +55,7 @@ std::optional<Deduction> deduce_from(const Position& position, const PivotWing& 
       }
   if (!draft.deduction.removes_something()) return std::nullopt;
   draft.deduction.digits = wing.pivot_digits;
+  rest_on_used(draft, wing);
   return std::move(draft).finished();
 }
 

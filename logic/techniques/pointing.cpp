@@ -40,6 +40,7 @@ Deduction deduce(const Position& position, Unit box, Unit line, int digit) {
   draft.deduction.unit = box;
   draft.deduction.other_unit = line;
   draft.deduction.digits = {digit};
+  draft.rest_on(box, digit);
   if (line.kind == UnitKind::row)
     show_row(draft, position, box, line, digit);
   else

@@ -10,12 +10,18 @@ namespace sdk {
 
 namespace {
 
-Deduction single(const Position& position, Cell cell, int digit, Unit unit) {
+Draft begin_draft(const Position& position, Cell cell, int digit) {
   Draft draft(position);
-  draft.deduction.unit = unit;
   draft.deduction.digits = {digit};
   draft.deduction.placement = Placement{cell, digit};
   draft.support(cell, Role::pattern, {});
+  return draft;
+}
+
+Deduction place_in_unit(const Position& position, Cell cell, int digit, Unit unit) {
+  Draft draft = begin_draft(position, cell, digit);
+  draft.deduction.unit = unit;
+  draft.rest_on(unit, digit);
   return std::move(draft).finished();
 }
 
@@ -24,7 +30,8 @@ std::optional<Deduction> find_only_place(const Position& position, UnitKind kind
     for (int number = 1; number <= 9; ++number) {
       const Unit unit{kind, number};
       const NineSet places = position.candidates.places(unit, digit);
-      if (places.count() == 1) return single(position, unit.cell(places.first()), digit, unit);
+      if (places.count() == 1)
+        return place_in_unit(position, unit.cell(places.first()), digit, unit);
     }
   return std::nullopt;
 }
@@ -35,7 +42,9 @@ std::optional<Deduction> find_naked_single(const Position& position) {
   const CellSet cells = position.candidates.cells_counting(1);
   if (cells.empty()) return std::nullopt;
   const Cell cell = cell_at(*cells.begin());
-  return single(position, cell, nth_candidate(position, cell, 1), {});
+  Draft draft = begin_draft(position, cell, nth_candidate(position, cell, 1));
+  draft.rest_on(cell);
+  return std::move(draft).finished();
 }
 
 std::optional<Deduction> find_hidden_single(const Position& position) {

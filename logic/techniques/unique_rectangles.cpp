@@ -5,6 +5,7 @@
 // digits could be swapped and the puzzle would have two solutions. No test asks that the rectangle
 // lie in two boxes; where it does not, nothing could be swapped and a removal can be wrong.
 
+#include <algorithm>
 #include <array>
 
 #include "logic/draft.hpp"
@@ -38,6 +39,12 @@ struct Rectangle {
     for (const Cell corner : corners) all.insert(corner);
     return all;
   }
+  /// Only then could the two digits be swapped.
+  bool lies_in_two_boxes() const {
+    NineSet boxes;
+    for (const Cell corner : corners) boxes.insert(corner.box());
+    return boxes.count() == 2;
+  }
   Unit row_of(Corner corner) const { return {UnitKind::row, cell(corner).row}; }
   Unit column_of(Corner corner) const { return {UnitKind::column, cell(corner).column}; }
 };
@@ -49,7 +56,15 @@ Draft begin_draft(const Rectangle& rectangle, Rule rule, Roof roof) {
   draft.deduction.cells_as(Role::pattern) = rectangle.cells();
   for (const Corner corner : roof)
     draft.deduction.cells_as(Role::roof).insert(rectangle.cell(corner));
+  draft.deduction.certain = rectangle.lies_in_two_boxes();
+  draft.deduction.premises.push_back(OneSolution{rectangle.digits(), rectangle.cells()});
   return draft;
+}
+
+/// The deduction rests on what the corners outside the roof hold.
+void rest_on_floor(Draft& draft, const Rectangle& rectangle, Roof roof) {
+  for (const Corner corner : all_corners)
+    if (std::ranges::find(roof, corner) == roof.end()) draft.rest_on(rectangle.cell(corner));
 }
 
 void show_corners(Draft& draft, const Rectangle& rectangle) {
@@ -64,6 +79,7 @@ std::optional<Deduction> clear_odd_corner(const Rectangle& rectangle, Corner odd
   Draft draft = begin_draft(rectangle, Rule::odd_corner, {odd});
   for (const Corner corner : all_corners)
     if (corner != odd) draft.show(rectangle.cell(corner), Mark::support, {}, Emphasis::support);
+  rest_on_floor(draft, rectangle, {odd});
   draft.show(rectangle.cell(odd), Mark::removed, rectangle.digits(), Emphasis::support);
   draft.eliminate(rectangle.cell(odd), rectangle.digits());
   return std::move(draft).finished();
@@ -96,6 +112,7 @@ std::optional<Deduction> find_shared_digit(const Rectangle& rectangle, Roof roof
   Draft draft = begin_draft(rectangle, rule, roof);
   for (const int z : shared) clear_around(draft, rectangle, roof, z);
   if (!draft.deduction.removes_something()) return std::nullopt;
+  for (const Cell corner : rectangle.corners) draft.rest_on(corner);
   return std::move(draft).finished();
 }
 
@@ -125,6 +142,8 @@ Deduction clear_roof(const Rectangle& rectangle, Corner roof1, Corner roof2, Uni
                      int removed) {
   Draft draft = begin_draft(rectangle, Rule::bound_to_roof, {roof1, roof2});
   draft.deduction.unit = line;
+  draft.rest_on(line, rectangle.other(removed));
+  rest_on_floor(draft, rectangle, {roof1, roof2});
   show_corners(draft, rectangle);
   for (const Corner corner : {roof1, roof2}) {
     draft.show(rectangle.cell(corner), Mark::support, {removed}, Emphasis::removed);
@@ -175,6 +194,8 @@ bool is_bound_to_corners(const Rectangle& rectangle, int digit) {
 
 Deduction clear_diagonal(const Rectangle& rectangle, Corner open1, Corner open2, int digit) {
   Draft draft = begin_draft(rectangle, Rule::bound_to_diagonal, {open1, open2});
+  for (const Corner corner : {P, S}) draft.rest_on(rectangle.row_of(corner), digit);
+  rest_on_floor(draft, rectangle, {open1, open2});
   show_corners(draft, rectangle);
   for (const Corner open : {open1, open2}) {
     draft.show(rectangle.cell(open), Mark::support, {digit}, Emphasis::removed);

@@ -5,6 +5,7 @@
 // ends see p and q. One end holds the link's digit, so p or q holds the other one.
 
 #include "logic/draft.hpp"
+#include "logic/techniques/chains.hpp"
 #include "logic/techniques/finders.hpp"
 
 namespace sdk {
@@ -27,6 +28,7 @@ CellSet far_ends(const Position& position, const Pair& pair, int digit, int e1) 
   return (position.links.strong.of(digit, e1) & peers_of(pair.q)) - pair.cells();
 }
 
+// Where p and q see each other they share out both digits without any link.
 Deduction deduce(const Position& position, const Pair& pair, const CellSet& losers, int removed,
                  Link link) {
   Draft draft(position);
@@ -35,6 +37,9 @@ Deduction deduce(const Position& position, const Pair& pair, const CellSet& lose
   for (const int cell : pair.cells()) draft.support(cell_at(cell), Role::pattern, pair.digits);
   for (const int cell : {link.e1, link.e2})
     draft.support(cell_at(cell), Role::link_end, pair.digits - NineSet{removed}, Mark::second);
+  for (const int cell : pair.cells()) draft.rest_on(cell_at(cell));
+  if (!peers_of(pair.p).contains(pair.q))
+    rest_on_link(draft, position, link.e1, link.e2, (pair.digits - NineSet{removed}).first());
   return std::move(draft).finished();
 }
 

@@ -42,6 +42,7 @@ Deduction deduce(const Position& position, const Wing& wing) {
   for (const int place : wing.places)
     for (const Unit base : {wing.base1, wing.base2})
       draft.support(base.cell(place), Role::pattern, {wing.digit});
+  for (const Unit base : {wing.base1, wing.base2}) draft.rest_on(base, wing.digit);
   clear_covers(draft, position, wing);
   return std::move(draft).finished();
 }

@@ -7,19 +7,23 @@
 #include <charconv>
 #include <iostream>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "board/grid_text.hpp"
+#include "tools/walk/json_walk.hpp"
 #include "tools/walk/line_filter.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace {
 
 constexpr std::string_view usage =
-    "usage: sudoku-walk [--explain en|fr] [--jobs N]\n       sudoku-walk --signature | --help\n";
+    "usage: sudoku-walk [--explain en|fr | --json] [--jobs N]\n       sudoku-walk --signature | "
+    "--help\n";
 
 constexpr std::string_view help = R"(
 Plays the hint command on each puzzle, accepting every offer, until nothing more can be found, and
@@ -41,6 +45,8 @@ Output, for each puzzle:
   3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links
 
   --explain en|fr   the same walk in sentences, in English or French
+  --json            the same walk as JSON, one object a line: {"puzzle": ...}, then a step each, with
+                    all that its conclusion rests on
   --jobs N          works on N puzzles at once, on as many threads; else on as many as the machine has
                     processors. The output is the same, in the order of the input
   --signature       one number that stands for the walks of the forty built-in puzzles
@@ -56,7 +62,8 @@ constexpr int most_jobs = 1024;
 
 /// What is asked of the walks.
 struct Order {
-  std::string_view language;  ///< of the explanation, "En" or "Fr"; empty for the plain walk
+  /// Tells the walk of a puzzle; none when it was not said how.
+  std::string (*tell)(std::string_view puzzle) = nullptr;
   int jobs = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
 };
 
@@ -64,18 +71,18 @@ bool is_skipped(std::string_view line) {
   return line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#';
 }
 
-sdk::Processed process(std::string_view line, long number, std::string_view language) {
+sdk::Processed process(std::string_view line, long number, const Order& order) {
   if (line.ends_with('\r')) line.remove_suffix(1);
   if (is_skipped(line)) return {};
   if (const std::string fault = sdk::puzzle_fault(line); !fault.empty())
     return {"", "error line " + std::to_string(number) + ": " + fault + "\n", true};
-  return {language.empty() ? sdk::walk(line) : sdk::explained_walk(line, language), ""};
+  return {order.tell ? order.tell(line) : sdk::walk(line), ""};
 }
 
 /// Plays every line of the standard input; the exit status.
 int play_all(const Order& order) {
   const auto process_line = [&](const std::string& line, long number) {
-    return process(line, number, order.language);
+    return process(line, number, order);
   };
   const auto [had_faults, failure] =
       sdk::filter_lines(std::cin, std::cout, std::cerr, order.jobs, process_line);
@@ -88,11 +95,18 @@ int refuse() {
   return 2;
 }
 
+std::string tell_in_english(std::string_view puzzle) { return sdk::explained_walk(puzzle, "En"); }
+std::string tell_in_french(std::string_view puzzle) { return sdk::explained_walk(puzzle, "Fr"); }
+
+/// Whether it is still open how walks are told, and the word is a language.
 bool read_language(std::string_view word, Order& order) {
-  if (word == "en") order.language = "En";
-  if (word == "fr") order.language = "Fr";
-  return !order.language.empty();
+  if (order.tell) return false;
+  if (word == "en") order.tell = tell_in_english;
+  if (word == "fr") order.tell = tell_in_french;
+  return order.tell != nullptr;
 }
+
+bool read_json(Order& order) { return !std::exchange(order.tell, sdk::json_walk); }
 
 bool read_jobs(std::string_view word, Order& order) {
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), order.jobs);
@@ -100,25 +114,35 @@ bool read_jobs(std::string_view word, Order& order) {
          order.jobs <= most_jobs;
 }
 
-/// Options and their values by turns; nothing when one of them is none.
-std::optional<Order> read_order(const std::vector<std::string>& arguments) {
-  Order order;
-  if (arguments.size() % 2 != 0) return std::nullopt;
-  for (std::size_t i = 0; i < arguments.size(); i += 2) {
-    const bool is_read = arguments[i] == "--explain"
-                             ? read_language(arguments[i + 1], order)
-                             : arguments[i] == "--jobs" && read_jobs(arguments[i + 1], order);
-    if (!is_read) return std::nullopt;
+using Words = std::vector<std::string>;
+
+/// Takes one option, and its value if it has one, off the front; false when it is none.
+bool take_option(std::span<const std::string>& words, Order& order) {
+  if (words.front() == "--json") {
+    words = words.subspan(1);
+    return read_json(order);
   }
+  if (words.size() < 2) return false;
+  const std::string_view option = words[0], value = words[1];
+  words = words.subspan(2);
+  if (option == "--explain") return read_language(value, order);
+  return option == "--jobs" && read_jobs(value, order);
+}
+
+/// Nothing when a word is out of place.
+std::optional<Order> read_order(std::span<const std::string> words) {
+  Order order;
+  while (!words.empty())
+    if (!take_option(words, order)) return std::nullopt;
   return order;
 }
 
-int run(const std::vector<std::string>& arguments) {
-  if (arguments == std::vector<std::string>{"--help"}) {
+int run(const Words& arguments) {
+  if (arguments == Words{"--help"}) {
     std::cout << usage << help;
     return 0;
   }
-  if (arguments == std::vector<std::string>{"--signature"}) {
+  if (arguments == Words{"--signature"}) {
     std::cout << sdk::library_signature() << '\n';
     return 0;
   }
