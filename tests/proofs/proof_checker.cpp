@@ -96,9 +96,11 @@ std::string first_of(std::initializer_list<std::string> faults) {
 
 }  // namespace
 
-ProofChecker::ProofChecker(std::string_view puzzle) : grid_(grid_of(puzzle)), is_drawn_(false) {}
+ProofChecker::ProofChecker(std::string_view puzzle)
+    : ProofChecker(grid_of(puzzle), Setting::walk) {}
 
-ProofChecker::ProofChecker(const PlainGrid& drawn) : grid_(drawn), is_drawn_(true) {}
+ProofChecker::ProofChecker(const PlainGrid& grid, Setting setting)
+    : grid_(grid), setting_(setting) {}
 
 std::string ProofChecker::fault(const nlohmann::json& step) {
   try {
@@ -122,7 +124,8 @@ std::string ProofChecker::fault_of(const TechniqueStep& step) const {
 
 std::string ProofChecker::certainty_fault(const TechniqueStep& step) const {
   const bool is_avoidable = step.name == "avoidable_rectangle";
-  if (is_avoidable && !is_drawn_) return "an avoidable rectangle never fires in a hint";
+  if (is_avoidable && setting_ == Setting::walk)
+    return "an avoidable rectangle never fires in a hint";
   const bool is_certain = !is_uncertain_ && !is_avoidable && !has_loose_rectangle(step);
   if (step.certain && !is_certain)
     return is_uncertain_ ? "certain after a step of the hint that is not"
@@ -134,7 +137,7 @@ std::string ProofChecker::proof_fault(const TechniqueStep& step) const {
   if (step.name == "avoidable_rectangle" || has_loose_rectangle(step)) return "";
   if (const CellDigit* const candidate = first_not_excluded(step.premises, step.removed))
     return "does not follow: " + text_of(*candidate) + " is possible";
-  return is_drawn_ ? "" : superfluous_premise(step);
+  return setting_ == Setting::walk ? superfluous_premise(step) : "";
 }
 
 std::string ProofChecker::fault_of(const OfferStep& step) const {

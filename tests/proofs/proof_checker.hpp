@@ -13,13 +13,17 @@
 
 namespace sdk::proofs {
 
+enum class Setting {
+  walk,
+  drawn_board,  ///< premises that could be left out, and an avoidable rectangle, are no fault
+};
+
 class ProofChecker {
  public:
   /// At the beginning of a walk through 81 characters, anything but "1".."9" an empty cell.
   explicit ProofChecker(std::string_view puzzle);
-  /// Before one call of a technique on a drawn board. Premises that could be left out, and an
-  /// avoidable rectangle, are no fault there.
-  explicit ProofChecker(const PlainGrid& drawn);
+  /// In the midst of a hint, or before one call of a technique on a drawn board.
+  ProofChecker(const PlainGrid& grid, Setting setting);
 
   /// What is wrong with the step, empty when nothing is. Then the step is applied, also a wrong one
   /// as long as it could be read: removed candidates go; an offered digit is entered, and the next
@@ -42,7 +46,7 @@ class ProofChecker {
   void apply(const EndStep&) { is_over_ = true; }
 
   PlainGrid grid_;
-  bool is_drawn_;
+  Setting setting_;
   bool is_uncertain_ = false;  ///< a step of this hint was not certain
   bool is_over_ = false;
 };
