@@ -70,6 +70,16 @@ TEST(Implication, OnlyTheTwoCrosswiseFillingsAreForbidden) {
   EXPECT_TRUE(filled(4, 7, 7, 4));
 }
 
+TEST(Implication, ACornerWithoutAPremiseCanBeSettledByOthers) {
+  Premises premises{UniquePremise{3, 8, {0, 1, 27, 28}}, CellPremise{1, digits({8})},
+                    CellPremise{27, digits({8})}};
+  EXPECT_FALSE(is_excluded(premises, {28, 3}));
+  int cell = 2;
+  for (const std::size_t digit : {1u, 2u, 4u, 5u, 6u, 7u, 9u})
+    premises.emplace_back(CellPremise{cell++, digits({digit})});
+  EXPECT_TRUE(is_excluded(premises, {28, 3}));
+}
+
 /// Some cells in two bands, so that rows, columns and boxes all matter.
 const std::vector<int> few_cells{0, 1, 9, 27, 28};
 

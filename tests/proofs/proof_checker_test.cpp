@@ -228,6 +228,11 @@ TEST(Proofs, RulesOfRectanglesListTheirLines) {
             "rule 3 of unique rectangles lists one line");
   EXPECT_EQ(fault(with_name(rule1, "unique_rectangle", 9, 5), rule1),
             "rule 5 of unique rectangles lists two lines");
+  const json rule3 = right_step("unique_rectangle", 3), rule5 = right_step("unique_rectangle", 5);
+  EXPECT_EQ(fault(with_name(rule3, "unique_rectangle", 9, 5), rule3),
+            "rule 5 of unique rectangles lists two lines");
+  EXPECT_EQ(fault(with_name(rule5, "unique_rectangle", 9, 3), rule5),
+            "rule 3 of unique rectangles lists one line");
   EXPECT_EQ(fault(with_name(rule1, "naked_triple", 7, 0), rule1),
             "naked_triple speaks of a rectangle");
 }
@@ -292,6 +297,9 @@ TEST(Certainty, WhatFollowsALooseRectangleInTheHintIsNot) {
   EXPECT_EQ(checker_after({first, uncertain(second)}).fault(last), too_certain);
   EXPECT_EQ(checker_after({first, uncertain(second)}).fault(uncertain(last)), "");
   EXPECT_EQ(checker_after({second}).fault(last), "");
+  ProofChecker misled = checker_after({first});
+  EXPECT_EQ(misled.fault(second), too_certain);
+  EXPECT_EQ(misled.fault(last), too_certain);
   const json next = offer("naked_single", cell_premise("r9c7", {7}), "r9c7", 7);
   EXPECT_FAULT(checker_after({first, uncertain(last)}).fault(next), "untrue");
 }
