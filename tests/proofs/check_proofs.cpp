@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// Judges walks in JSON:
+//   check_proofs < LINES            those of standard input
+//   check_proofs SUDOKU-WALK SEED   those that the tool prints for made-up puzzles of every kind,
+//   six
+//                                   for each of PROOF_GRIDS grids (10 without)
+// Prints each fault and a table; the exit status is 1 when there is a fault.
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+#include "tests/proofs/walk_audit.hpp"
+#include "tests/support/puzzle_generator.hpp"
+
+namespace {
+
+using Puzzles = std::vector<std::string>;
+
+int grid_count() {
+  const char* const grids = std::getenv("PROOF_GRIDS");
+  return grids ? std::atoi(grids) : 10;
+}
+
+Puzzles made_up_puzzles(std::uint32_t seed) {
+  sdk::test::PuzzleGenerator generator(seed);
+  Puzzles all;
+  for (int i = 0; i < grid_count(); ++i)
+    for (const std::string& puzzle : generator.next()) all.push_back(puzzle);
+  return all;
+}
+
+/// A file with a line each, for as long as this lives.
+class PuzzlesOnDisk {
+ public:
+  explicit PuzzlesOnDisk(const Puzzles& puzzles) {
+    std::ofstream file(path_);
+    for (const std::string& puzzle : puzzles) file << puzzle << '\n';
+  }
+  ~PuzzlesOnDisk() { std::filesystem::remove(path_); }
+  PuzzlesOnDisk(const PuzzlesOnDisk&) = delete;
+  PuzzlesOnDisk& operator=(const PuzzlesOnDisk&) = delete;
+  std::string path() const { return path_.string(); }
+
+ private:
+  std::filesystem::path path_ =
+      std::filesystem::temp_directory_path() / ("proofs_" + std::to_string(getpid()));
+};
+
+void read_all(std::FILE* stream, sdk::proofs::WalkAudit& audit) {
+  char* line = nullptr;
+  std::size_t room = 0;
+  for (ssize_t length; (length = getline(&line, &room, stream)) > 0;)
+    audit.read(std::string(line, static_cast<std::size_t>(length)));
+  std::free(line);
+}
+
+/// Whether the tool ended well.
+bool read_walks(const std::string& tool, const Puzzles& puzzles, sdk::proofs::WalkAudit& audit) {
+  const PuzzlesOnDisk input(puzzles);
+  audit.expect(puzzles);
+  std::FILE* const walks = popen((tool + " --json < " + input.path()).c_str(), "r");
+  if (walks == nullptr) return false;
+  read_all(walks, audit);
+  return pclose(walks) == 0;
+}
+
+int verdict(sdk::proofs::WalkAudit& audit, bool ended_well) {
+  audit.finish();
+  audit.print_table(std::cout);
+  if (!ended_well) std::cout << "the tool failed\n";
+  return audit.faults() == 0 && audit.puzzles() > 0 && ended_well ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  sdk::proofs::WalkAudit audit(std::cout);
+  if (argc == 1) {
+    read_all(stdin, audit);
+    return verdict(audit, true);
+  }
+  if (argc == 3) {
+    const auto seed = static_cast<std::uint32_t>(std::strtoul(argv[2], nullptr, 10));
+    return verdict(audit, read_walks(argv[1], made_up_puzzles(seed), audit));
+  }
+  std::cerr << "usage: check_proofs [SUDOKU-WALK SEED]\n";
+  return 2;
+}
