@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
@@ -50,8 +51,7 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
 namespace {
 
 /// Unlike the trap, the wrap gives no marks of its own: the display of the colours shows it.
-Deduction remove_colour(const Position& position, const ColourTable& colours, int colour,
-                        int digit) {
+Deduction deduce_wrap(const Position& position, const ColourTable& colours, int colour, int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
   for (const int number : colours.cells(colour)) {
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
@@ -66,7 +66,7 @@ std::optional<Deduction> find_wrap(const Position& position, const ColourTable& 
                                    int digit) {
   for (const int cell : colours.coloured())
     if (see_each_other(cell, colours.cells(colours(cell))))
-      return remove_colour(position, colours, colours(cell), digit);
+      return deduce_wrap(position, colours, colours(cell), digit);
   return std::nullopt;
 }
 
