@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The boolean of the game's fields and flags.
+/// The boolean of masks, fields and flags.
 #pragma once
 
 #include <cstdint>

@@ -19,8 +19,7 @@ struct SearchCursor {
   std::int16_t& row;
   std::int16_t& column;
 
-  /// Sets row and column from the number. 82 is row 10, column 1; a number below 0 has a column
-  /// below 1.
+  /// Sets row and column from the number. 82 is row 10, column 1; a number below 1 names no cell.
   void locate() const {
     row = static_cast<std::int16_t>((number - 1) / 9 + 1);
     column = number % 9;

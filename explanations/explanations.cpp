@@ -3,7 +3,6 @@
 
 #include "explanations/explanations.hpp"
 
-#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -81,11 +80,14 @@ class Teller {
     return is_french_ ? french : english;
   }
 
+  std::string_view name(UnitKind kind) const {
+    if (kind == UnitKind::row) return either("la ligne ", "row ");
+    if (kind == UnitKind::column) return either("la colonne ", "column ");
+    return either("la région ", "box ");
+  }
+
   std::string name(Unit unit) const {
-    constexpr std::array<std::string_view, 3> french{"la ligne ", "la colonne ", "la région "};
-    constexpr std::array<std::string_view, 3> english{"row ", "column ", "box "};
-    const auto kind = static_cast<std::size_t>(unit.kind);
-    return std::string(either(french[kind], english[kind])) + std::to_string(unit.number);
+    return std::string(name(unit.kind)) + std::to_string(unit.number);
   }
 
   std::string plural(UnitKind kind) const {
@@ -153,27 +155,28 @@ class Teller {
   bool is_french_;
 };
 
-constexpr const Sentence* sentence_with(std::string_view technique, Rule rule) {
-  const auto* const found =
-      std::find_if(sentences.begin(), sentences.end(), [&](const Sentence& sentence) {
-        return sentence.technique == technique && sentence.rule == rule;
-      });
-  return found == sentences.end() ? nullptr : &*found;
+/// The sentence of the rule; the number of sentences when there is none.
+constexpr std::size_t sentence_of(std::string_view technique, Rule rule) {
+  std::size_t n = 0;
+  while (n < sentences.size() && (sentences[n].technique != technique || sentences[n].rule != rule))
+    ++n;
+  return n;
 }
 
 /// No sentence stands twice or is of a rule that its technique does not have.
 constexpr bool belong_to_techniques() {
-  return std::all_of(sentences.begin(), sentences.end(), [](const Sentence& sentence) {
-    const Technique* const technique = technique_with(sentence.technique);
-    return technique && technique->rules.contains(sentence.rule) &&
-           sentence_with(sentence.technique, sentence.rule) == &sentence;
-  });
+  for (std::size_t n = 0; n < sentences.size(); ++n) {
+    const auto& [technique, rule, text] = sentences[n];
+    if (sentence_of(technique, rule) != n || row_with(technique) == row_count ||
+        !technique_at(row_with(technique)).rules.contains(rule))
+      return false;
+  }
+  return true;
 }
 
 constexpr std::size_t rules_in_all() {
   std::size_t count = 0;
-  for (const Technique& single : singles) count += single.rules.count();
-  for (const Technique& technique : techniques) count += technique.rules.count();
+  for (std::size_t row = 0; row < row_count; ++row) count += technique_at(row).rules.count();
   return count;
 }
 
@@ -181,10 +184,11 @@ static_assert(belong_to_techniques() && sentences.size() == rules_in_all(),
               "every rule of every technique has one sentence");
 
 const Text& text_of(const Deduction& deduction) {
-  const Sentence* const found =
-      deduction.technique ? sentence_with(deduction.technique->id, deduction.rule) : nullptr;
-  if (!found) throw std::out_of_range("a deduction that no technique makes has no sentence");
-  return found->text;
+  const std::size_t n =
+      deduction.technique ? sentence_of(deduction.technique->id, deduction.rule) : sentences.size();
+  if (n == sentences.size())
+    throw std::out_of_range("a deduction that no technique makes has no sentence");
+  return sentences[n].text;
 }
 
 const Text& text_of(const Event& event) {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The program-wide flags and values. Together with the window's fields and the step-by-step
-/// solver's tables they are all the state there is.
+/// The program-wide flags and values. Together with the window's fields, the step-by-step
+/// solver's tables and the generator of the puzzles they are all the state there is.
 #pragma once
 
 #include <array>

@@ -43,13 +43,6 @@ void CandidateCube::fill(Cell cell, int value) {
   set_value(cell, value);
 }
 
-int CandidateCube::operator()(int row, int column, int layer) const {
-  const Cell cell{row, column};
-  if (layer == 10) return value(cell);
-  if (layer == 11) return count(cell);
-  return has(cell, layer);
-}
-
 bool CandidateCube::is_complete() const {
   for (int number = 1; number <= 81; ++number)
     if (values_[number] == 0) return false;

@@ -37,8 +37,6 @@ class CandidateCube {
   int value(Cell cell) const { return values_(cell.row, cell.column); }
   /// The stored count.
   int count(Cell cell) const { return counts_(cell.row, cell.column); }
-  /// Layers 1..9 are the flags, 10 the value, 11 the stored count.
-  int operator()(int row, int column, int layer) const;
 
   /// The places in the unit where the digit is a candidate.
   NineSet places(Unit unit, int digit) const {

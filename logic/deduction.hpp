@@ -29,7 +29,7 @@ enum class Role {
   first_colour,
   second_colour,
 };
-inline constexpr std::size_t role_count = 8;
+inline constexpr std::size_t role_count = static_cast<std::size_t>(Role::second_colour) + 1;
 
 /// What fired, where a technique has several rules.
 enum class Rule {
@@ -61,7 +61,8 @@ enum class Emphasis { support, removed };
 struct Highlight {
   Cell cell;
   std::optional<Mark> mark;
-  NineSet digits;  ///< held by the cell when this is drawn
+  NineSet
+      digits;  ///< held by the cell, but for those that it has lost in the same deduction before
   Emphasis emphasis = Emphasis::support;
   bool operator==(const Highlight&) const = default;
 };
@@ -77,7 +78,8 @@ struct Placement {
 struct Deduction {
   const Technique* technique = nullptr;  ///< its row; null for a dead cell
   Rule rule = Rule::only;
-  Unit unit{};  ///< where the pattern lies, for techniques of one or two units
+  Unit unit{};  ///< where the pattern lies or, of several lines, the first; unset for patterns of
+                ///< cells
   Unit other_unit{};
   NineSet digits{};                         ///< of the pattern
   std::array<CellSet, role_count> cells{};  ///< by role

@@ -26,8 +26,8 @@ struct Position {
   bool operator==(const Position&) const = default;
 };
 
-/// The grid of values (0 for an empty cell) before anything is concluded: every empty cell has all
-/// nine candidates.
+/// The grid of values (0 for an empty cell, else 1..9) before anything is concluded: every empty
+/// cell has all nine candidates.
 Position open_position(const Square<std::int16_t>& values);
 
 /// The same once it is recomputed.

@@ -37,6 +37,13 @@ bool places_agree(const CandidateCube& cube, Unit unit) {
   return true;
 }
 
+std::string name_of(Unit unit) {
+  const char* const kind = unit.kind == UnitKind::row      ? "row "
+                           : unit.kind == UnitKind::column ? "column "
+                                                           : "box ";
+  return kind + std::to_string(unit.number);
+}
+
 }  // namespace
 
 std::string position_fault(const Position& position) {
@@ -47,8 +54,7 @@ std::string position_fault(const Position& position) {
       return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column) + " " + fault;
   }
   for (const Unit unit : all_units)
-    if (!places_agree(cube, unit))
-      return "the places in unit " + std::to_string(unit.number) + " differ";
+    if (!places_agree(cube, unit)) return "the places in " + name_of(unit) + " differ";
   return "";
 }
 

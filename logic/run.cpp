@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "logic/draft.hpp"
+#include "logic/position_check.hpp"
 
 namespace sdk {
 
@@ -19,7 +20,7 @@ Run::Run(Position start, std::span<const Technique> order)
 
 namespace {
 
-Deduction mark_dead(const Position& position, Cell cell) {
+Deduction deduce_dead(const Position& position, Cell cell) {
   Draft draft(position);
   draft.support(cell, Role::pattern, {}, Mark::removed);
   return std::move(draft).finished();
@@ -29,9 +30,10 @@ Deduction mark_dead(const Position& position, Cell cell) {
 
 const Event& Run::next() {
   assert(!is_over());
+  assert(position_fault(position_).empty());
   if (position_.candidates.is_complete()) return add(EventKind::completed);
   if (const auto cell = position_.candidates.dead_cell())
-    return add(EventKind::dead, mark_dead(position_, *cell));
+    return add(EventKind::dead, deduce_dead(position_, *cell));
   if (auto found = find_single()) return add(EventKind::offer, std::move(*found));
   if (auto found = find_removal()) return remove(std::move(*found));
   return add(EventKind::exhausted);

@@ -25,7 +25,7 @@ enum class EventKind {
 struct Event {
   EventKind kind;
   Position before;      ///< recomputed, and nothing of the event done to it
-  Deduction deduction;  ///< of a dead cell its mark alone; empty when completed or exhausted
+  Deduction deduction;  ///< of a dead cell the cell and its mark; empty when completed or exhausted
   /// It is certain by itself, and so was all that the run found before it, which it may rest on.
   bool certain = true;
 
@@ -38,7 +38,7 @@ struct Event {
 /// is read or changed.
 class Run {
  public:
-  /// From a grid of values; 0 is an empty cell.
+  /// From a grid of values: 0 for an empty cell, else 1..9.
   explicit Run(const Square<std::int16_t>& values);
   /// From any position, with those techniques, which must outlive the run.
   explicit Run(Position start, std::span<const Technique> order = techniques);

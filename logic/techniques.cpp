@@ -14,9 +14,9 @@ std::optional<Deduction> find_by(const Technique& technique, const Position& pos
 namespace {
 
 constexpr bool has_distinct_ids() {
-  for (const Technique& a : techniques)
-    if (technique_with(a.id) != &a) return false;
-  return singles[0].id != singles[1].id;
+  for (std::size_t row = 0; row < row_count; ++row)
+    if (row_with(technique_at(row).id) != row) return false;
+  return true;
 }
 
 constexpr bool has_ascending_places() {

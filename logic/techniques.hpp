@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 /// Everything that a hint can use, a row each, and the one order in which it is tried. What is told
-/// of a technique elsewhere (sentences, boards, pictures) goes by its id and is checked against
-/// these tables.
+/// of a technique elsewhere goes by its id (sentences, boards) or its place (walks, pictures), and
+/// is checked against these tables.
 #pragma once
 
 #include <array>
@@ -97,19 +97,25 @@ inline constexpr std::array techniques{
               .reads_links = true},
 };
 
-/// The row of that id, single or not; null when there is none.
-constexpr const Technique* technique_with(std::string_view id) {
-  for (const Technique& technique : singles)
-    if (technique.id == id) return &technique;
-  for (const Technique& technique : techniques)
-    if (technique.id == id) return &technique;
-  return nullptr;
+/// How many rows both tables have.
+inline constexpr std::size_t row_count = singles.size() + techniques.size();
+
+/// Row 0, 1, ... of the singles, then of the techniques.
+constexpr const Technique& technique_at(std::size_t row) {
+  return row < singles.size() ? singles[row] : techniques[row - singles.size()];
 }
 
-/// The same where there is one: an id without a row does not compile.
+/// The row of that id; row_count when there is none.
+constexpr std::size_t row_with(std::string_view id) {
+  std::size_t row = 0;
+  while (row < row_count && technique_at(row).id != id) ++row;
+  return row;
+}
+
+/// The row of that id, found while the program is compiled: an id without a row does not compile.
 consteval const Technique& technique_named(std::string_view id) {
-  const Technique* const found = technique_with(id);
-  return found ? *found : throw "no technique has this id";
+  if (row_with(id) == row_count) throw "no technique has this id";
+  return technique_at(row_with(id));
 }
 
 /// Whether a naked single was found.

@@ -115,6 +115,7 @@ void act_on(const Event& event) {
 
 void run() {
   init_candidats();
+  efface_couleurs();
   Run& hint = solver.hint.emplace(solver.position);
   while (!hint.is_over()) {
     const Event& event = hint.next();

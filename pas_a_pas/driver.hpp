@@ -17,8 +17,8 @@ namespace sdk {
 /// stack. The result has no meaning.
 std::int16_t suggestion();
 
-/// Fills `Candidats` and `GrilleDepart` from `MSF` and empties `MSR`. A text that is not a number
-/// is an empty cell. No candidate is removed yet.
+/// Fills `Candidats` and `GrilleDepart` from `MSF`, and empties `Paires` and `MSR`. A text that is
+/// not a number is an empty cell. No candidate is removed yet.
 void init_candidats();
 
 /// The recompute: every cell whose stored count is not 0 loses what the values it sees exclude, or

@@ -1,21 +1,20 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The techniques that remove candidates, as procedures over the solver's tables. Each takes no
-/// argument, applies the first pattern of its scan that removes something, and returns true; or it
-/// changes nothing and returns false. Marks are given only while `ModePasAPas` is true; removals
-/// are the same either way. Rows, columns and digits are 1..9, cell numbers 1..81.
+/// The techniques that remove candidates, as procedures over the solver's tables. A procedure named
+/// after a technique applies the first pattern of its scan that removes something, and returns
+/// true; or it removes and marks nothing and returns false. Techniques mark only while
+/// `ModePasAPas` is true; what they remove is the same either way. Rows, columns and digits
+/// are 1..9, cell numbers 1..81.
 #pragma once
-
-#include <optional>
 
 #include "board/bool16.hpp"
 #include "logic/techniques.hpp"
 
 namespace sdk {
 
-/// Shows what the deduction highlights while `ModePasAPas` is true, takes its candidates away, and
-/// ends as its technique does.
+/// What a technique found on the present tables: shows what the deduction highlights while
+/// `ModePasAPas` is true, takes its candidates away, and ends as its technique does.
 void perform(const Deduction& deduction);
 
 /// Finds the technique's first pattern and performs it.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"

@@ -3,6 +3,8 @@
 
 // Box/line reduction: a digit that a line has in one box only cannot stand elsewhere in that box.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 

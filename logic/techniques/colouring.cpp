@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "logic/draft.hpp"
 #include "logic/techniques/chains.hpp"
@@ -61,8 +62,8 @@ namespace {
 
 /// One of the cells that clash joins all of their colour. Unlike the trap, the wrap gives no marks
 /// of its own: the display of the colours shows it.
-Deduction remove_colour(const Position& position, const ColourTable& colours, int clashing,
-                        int digit) {
+Deduction deduce_wrap(const Position& position, const ColourTable& colours, int clashing,
+                      int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
   for (const int number : colours.cells(colours(clashing))) {
     rest_on_chain(draft, position, number, {clashing}, digit);
@@ -78,7 +79,7 @@ std::optional<Deduction> find_wrap(const Position& position, const ColourTable& 
                                    int digit) {
   for (const int cell : colours.coloured())
     if (see_each_other(cell, colours.cells(colours(cell))))
-      return remove_colour(position, colours, cell, digit);
+      return deduce_wrap(position, colours, cell, digit);
   return std::nullopt;
 }
 

@@ -7,6 +7,8 @@
 
 #include "logic/techniques/finned_x_wing.hpp"
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 
@@ -43,8 +45,11 @@ void rest_on_needed(Draft& draft, const Position& position, const FinnedWing& wi
 
 void show_fins(Draft& draft, const Position& position, const FinnedWing& wing) {
   for (const std::size_t line : {0, 1})
-    for (const int place : fins_on(position, wing, line))
-      draft.support(wing.base_line(line).cell(place), Role::fin, {wing.digit}, Mark::second);
+    for (const int place : fins_on(position, wing, line)) {
+      const Cell fin = wing.base_line(line).cell(place);
+      if (draft.digits_left(fin).contains(wing.digit))
+        draft.support(fin, Role::fin, {wing.digit}, Mark::second);
+    }
 }
 
 }  // namespace

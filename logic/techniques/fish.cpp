@@ -6,6 +6,8 @@
 
 #include "logic/techniques/fish.hpp"
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/combinations.hpp"
 #include "logic/techniques/finders.hpp"

@@ -3,6 +3,8 @@
 
 // Hidden pairs: two digits with the same two places in a unit leave no room there for others.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 #include "logic/techniques/scans.hpp"
@@ -11,7 +13,7 @@ namespace sdk {
 
 namespace {
 
-/// The same position without everything but `digits` in the cell, recomputed.
+/// Leaves the cell nothing but `digits`, and recomputes.
 void reduce(Position& position, Cell cell, NineSet digits) {
   for (const int digit : position.candidates.digits(cell) - digits)
     position.candidates.remove(cell, digit);
@@ -25,8 +27,8 @@ bool holds_more(const Position& position, Cell cell) {
 // Three things differ from the naked pair: the cells are only ever marked as support, the
 // candidates are recomputed after each cell, and what counts as success is that the unit's total of
 // candidates fell. So a cell that holds nothing but the pair is neither marked nor counted.
-std::optional<Deduction> empty_pair_cells(const Position& position, Unit unit, NineSet places,
-                                          NineSet digits) {
+std::optional<Deduction> find_in_pair_cells(const Position& position, Unit unit, NineSet places,
+                                            NineSet digits) {
   Draft draft(position);
   draft.deduction.unit = unit;
   draft.deduction.digits = digits;
@@ -49,7 +51,7 @@ std::optional<Deduction> find_of(const Position& position, Unit unit, int a, int
   if (places.count() != 2 || places != position.candidates.places(unit, b)) return std::nullopt;
   for (const int place : places)
     if (holds_more(position, unit.cell(place)))
-      return empty_pair_cells(position, unit, places, {a, b});
+      return find_in_pair_cells(position, unit, places, {a, b});
   return std::nullopt;
 }
 

@@ -3,6 +3,8 @@
 
 // Hidden triples and quads: n digits with only n places in a unit leave no room there for others.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/combinations.hpp"
 #include "logic/techniques/finders.hpp"

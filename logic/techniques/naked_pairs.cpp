@@ -3,6 +3,8 @@
 
 // Naked pairs: two cells of a unit with the same two candidates share them out among themselves.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 #include "logic/techniques/scans.hpp"

@@ -5,6 +5,7 @@
 // themselves.
 
 #include <array>
+#include <utility>
 
 #include "logic/draft.hpp"
 #include "logic/techniques/combinations.hpp"

@@ -3,6 +3,8 @@
 
 #include "logic/techniques/pincers.hpp"
 
+#include <utility>
+
 #include "logic/draft.hpp"
 
 namespace sdk {

@@ -3,6 +3,8 @@
 
 // Pointing: a digit that a box has on one line only cannot stand elsewhere on that line.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 

@@ -3,6 +3,8 @@
 
 // Naked and hidden singles: the two techniques that place a digit.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
@@ -73,7 +74,7 @@ void show_corners(Draft& draft, const Rectangle& rectangle) {
 }
 
 /// Three corners hold only x and y, so the odd corner holds neither.
-std::optional<Deduction> clear_odd_corner(const Rectangle& rectangle, Corner odd) {
+std::optional<Deduction> find_at_odd_corner(const Rectangle& rectangle, Corner odd) {
   for (const Corner corner : all_corners)
     if (corner != odd && rectangle.count(corner) != 2) return std::nullopt;
   Draft draft = begin_draft(rectangle, Rule::odd_corner, {odd});
@@ -87,7 +88,7 @@ std::optional<Deduction> clear_odd_corner(const Rectangle& rectangle, Corner odd
 
 std::optional<Deduction> find_odd_corner(const Rectangle& rectangle) {
   for (const Corner odd : {S, R, Q, P})
-    if (auto found = clear_odd_corner(rectangle, odd)) return found;
+    if (auto found = find_at_odd_corner(rectangle, odd)) return found;
   return std::nullopt;
 }
 
@@ -138,8 +139,8 @@ bool is_bound_to(const Position& position, Cell roof1, Cell roof2, Unit line, in
          digit_count(position, {UnitKind::box, roof1.box()}, digit) == 2;
 }
 
-Deduction clear_roof(const Rectangle& rectangle, Corner roof1, Corner roof2, Unit line,
-                     int removed) {
+Deduction deduce_roof(const Rectangle& rectangle, Corner roof1, Corner roof2, Unit line,
+                      int removed) {
   Draft draft = begin_draft(rectangle, Rule::bound_to_roof, {roof1, roof2});
   draft.deduction.unit = line;
   draft.rest_on(line, rectangle.other(removed));
@@ -165,7 +166,7 @@ std::optional<Deduction> find_on_roof(const Rectangle& rectangle, Corner roof1, 
   if (!has_roof(rectangle, roof1, roof2)) return std::nullopt;
   for (const int digit : rectangle.digits())
     if (is_bound_to(rectangle.position, rectangle.cell(roof1), rectangle.cell(roof2), line, digit))
-      return clear_roof(rectangle, roof1, roof2, line, rectangle.other(digit));
+      return deduce_roof(rectangle, roof1, roof2, line, rectangle.other(digit));
   return std::nullopt;
 }
 
@@ -192,7 +193,7 @@ bool is_bound_to_corners(const Rectangle& rectangle, int digit) {
   return true;
 }
 
-Deduction clear_diagonal(const Rectangle& rectangle, Corner open1, Corner open2, int digit) {
+Deduction deduce_diagonal(const Rectangle& rectangle, Corner open1, Corner open2, int digit) {
   Draft draft = begin_draft(rectangle, Rule::bound_to_diagonal, {open1, open2});
   for (const Corner corner : {P, S}) draft.rest_on(rectangle.row_of(corner), digit);
   rest_on_floor(draft, rectangle, {open1, open2});
@@ -212,7 +213,7 @@ std::optional<Deduction> find_on_diagonal(const Rectangle& rectangle, Corner two
   if (rectangle.count(open1) <= 2 || rectangle.count(open2) <= 2) return std::nullopt;
   for (const int digit : rectangle.digits())
     if (is_bound_to_corners(rectangle, digit))
-      return clear_diagonal(rectangle, open1, open2, digit);
+      return deduce_diagonal(rectangle, open1, open2, digit);
   return std::nullopt;
 }
 

@@ -4,6 +4,8 @@
 // W-wing: two cells p and q of the same candidates a and b, and a strong link on one of these whose
 // ends see p and q. One end holds the link's digit, so p or q holds the other one.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/chains.hpp"
 #include "logic/techniques/finders.hpp"
@@ -69,7 +71,8 @@ std::optional<Deduction> find_w_wing(const Position& position) {
   for (const int p : two_candidates)
     for (const int q : two_candidates) {
       const NineSet digits = position.candidates.digits(cell_at(p));
-      if (p >= q || digits != position.candidates.digits(cell_at(q))) continue;
+      if (p >= q || digits.count() != 2) continue;
+      if (digits != position.candidates.digits(cell_at(q))) continue;
       if (auto found = find_at(position, {p, q, digits})) return found;
     }
   return std::nullopt;

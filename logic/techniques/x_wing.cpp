@@ -4,6 +4,8 @@
 // X-wing: a digit with the same two places in two lines takes two opposite corners of that
 // rectangle, so it stands nowhere else on the two lines that cross them.
 
+#include <utility>
+
 #include "logic/draft.hpp"
 #include "logic/techniques/finders.hpp"
 

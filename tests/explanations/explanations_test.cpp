@@ -165,7 +165,7 @@ constexpr Kind kinds[] = {
 /// Every role has a cell of its own, so that an empty slot would show.
 Deduction deduction_of(const Kind& kind) {
   Deduction deduction;
-  deduction.technique = technique_with(kind.technique);
+  deduction.technique = &technique_at(row_with(kind.technique));
   deduction.rule = kind.rule;
   deduction.unit = {UnitKind::row, 2};
   deduction.other_unit = {UnitKind::column, 7};

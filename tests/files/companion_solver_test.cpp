@@ -30,7 +30,7 @@ TEST_F(CompanionSolver, SolvesTheFortyStoredPuzzles) {
     const LibraryEntry& entry = BibliothequeGrilles[k];
     game.draw(puzzle_text(entry));
     w.click(Control::Bouton_GO);
-    EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)}) << k + 1;
+    EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)}) << k + 1;
     if (k + 1 == 33) continue;  // has several solutions
     EXPECT_EQ(joined(shown(w)), entry.solution) << k + 1;
     EXPECT_EQ(w.ChaineSolution, entry.solution) << k + 1;
@@ -40,13 +40,13 @@ TEST_F(CompanionSolver, SolvesTheFortyStoredPuzzles) {
 TEST_F(CompanionSolver, SolvesAnEmptyGrid) {
   game.draw(std::string(81, '.'));
   w.click(Control::Bouton_GO);
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
 }
 
 TEST_F(CompanionSolver, TellsThatThereIsNoSolution) {
   game.draw("11" + std::string(79, '.'));
   w.click(Control::Bouton_GO);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_TRUE(fs::is_empty(desktop.temporary_folder()));
 }
 

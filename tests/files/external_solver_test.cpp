@@ -61,7 +61,7 @@ TEST_P(GoodAnswer, IsShownInGreen) {
   EXPECT_EQ(w.ChaineGrille, solution);
   EXPECT_EQ(joined(digits(w.Grille)), solution);
   EXPECT_TRUE(globals.GrilleOk);
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
   EXPECT_EQ(desktop.pointers, (std::vector{Pointer::hourglass, Pointer::arrow}));
   EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines", "refresh MSF", "lines", "refresh MSF",
                                   "refresh MSR", "lines"}));
@@ -96,7 +96,7 @@ class AnswerNoSolution : public ExternalSolver, public testing::WithParamInterfa
 TEST_P(AnswerNoSolution, IsToldToThePlayer) {
   globals.GrilleOk = true;
   solve_with(GetParam());
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_FALSE(globals.GrilleOk);
   EXPECT_EQ(w.ChaineSolution, old_solution);
   EXPECT_FALSE(has_input());
@@ -119,7 +119,7 @@ TEST_P(AnswerNoSolution, ShowsNothingInASilentSolve) {
   globals.ResolutionSilencieuse = true;
   solve_with(GetParam());
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::green), "");
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_EQ(game.repaints, (Lines{"lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 
@@ -283,7 +283,7 @@ TEST_F(ExternalSolver, ThatFindsNothingKeepsTheOldSolutionOfAnOpenedPuzzle) {
   desktop.chosen = {(tmp() / "a.sdk").string()};
   w.click(Control::Command6);
   EXPECT_EQ(w.ChaineSolution, old_solution);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_EQ(state_fault(w), "");
 }
 

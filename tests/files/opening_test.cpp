@@ -116,7 +116,7 @@ TEST_F(Opening, IsForgottenByTheNextNewPuzzle) {
 TEST_F(Opening, AnUnsolvablePuzzleKeepsTheOldSolution) {
   const std::string old = w.ChaineSolution;
   open(impossible);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_EQ(w.ChaineSolution, old);
   EXPECT_FALSE(globals.GrilleOk);
   EXPECT_EQ(game.cell(1, 1).text_colour, colour::red);
@@ -128,7 +128,7 @@ TEST_F(Opening, InterruptedKeepsTheOldSolution) {
   const std::string old = w.ChaineSolution;
   desktop.at_step[40] = [&] { w.preview_key(key::escape); };
   open(puzzle);
-  EXPECT_EQ(desktop.boxes, std::vector{message(23, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::search_stopped, Icon::critical)});
   EXPECT_EQ(w.ChaineSolution, old);
   EXPECT_EQ(shown(w), puzzle);
   EXPECT_EQ(desktop.pointers.back(), Pointer::arrow);

@@ -77,7 +77,8 @@ TEST_F(SolverAnswer, WithAZeroAnywhereInItsFirstLineTellsThatThereIsNoSolution) 
     read(text.empty() ? "\0"
                         "0"s
                       : text);
-    EXPECT_EQ(game.desktop.boxes, std::vector{message(13, Icon::critical)}) << text;
+    EXPECT_EQ(game.desktop.boxes, std::vector{message(Message::impossible, Icon::critical)})
+        << text;
     EXPECT_FALSE(globals.GrilleOk);
     EXPECT_EQ(w.ChaineSolution, "before");
     EXPECT_FALSE(fs::exists(output()));

@@ -96,7 +96,7 @@ TEST_F(StartWithFile, InterruptedLeavesNoSolution) {
   w.start(file.string());
   desktop.at_step[40] = [&] { w.preview_key(key::escape); };
   w.finish_start();
-  EXPECT_EQ(desktop.boxes, std::vector{message(23, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::search_stopped, Icon::critical)});
   EXPECT_EQ(w.ChaineSolution, "");
   w.click(Control::Command7);
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::red), all_cells());

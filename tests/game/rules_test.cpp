@@ -279,7 +279,7 @@ TEST_F(Rules, AfficherWritesTheDigitsGreenWhereTheCellWasNotFixed) {
   EXPECT_EQ(cells_with_back_colour(w.MSF, colour::white),
             "r1c1 r2c1 r3c1 r4c1 r5c1 r6c1 r7c1 r8c1 r9c1");
   EXPECT_EQ(w.control(Control::Label).caption, " 81 indices");
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
   EXPECT_EQ(w.MSF.selection(), (CellRange{8, 8, 8, 8}));
   EXPECT_EQ(game.msf.times_hidden, 1);
   EXPECT_EQ(game.msf.changes_while_visible, 0);
@@ -329,8 +329,8 @@ TEST_F(Rules, AFullValidGridIsAnnouncedAtEveryCount) {
   w.maj_indices();
   w.maj_indices();
   EXPECT_EQ(w.control(Control::Label).caption, " 81 indices");
-  EXPECT_EQ(desktop.boxes,
-            (std::vector{message(14, Icon::exclamation), message(14, Icon::exclamation)}));
+  EXPECT_EQ(desktop.boxes, (std::vector{message(Message::completed, Icon::exclamation),
+                                        message(Message::completed, Icon::exclamation)}));
   EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines", "refresh MSF", "lines"}));
 }
 
@@ -340,7 +340,7 @@ TEST_F(Rules, AFullGridWithAClashIsCalledImpossibleAndKept) {
   read(grid);
   const std::string before = shown(w);
   w.maj_indices();
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::exclamation)});
   EXPECT_EQ(shown(w), before);
   EXPECT_FALSE(w.GrilleValide);
 }
@@ -349,7 +349,7 @@ TEST_F(Rules, CountingJudgesTheGridAsItWasLastRead) {
   read(complete_grid);
   w.MSF.set_text(0, 0, "2");
   w.maj_indices();
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
 }
 
 TEST_F(Rules, AnEmptyGridCountsZero) {

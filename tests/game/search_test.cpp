@@ -224,7 +224,7 @@ TEST_F(Search, ShowsTheSolutionInGreenAndAnnouncesIt) {
   EXPECT_EQ(shown(w), complete_grid);
   EXPECT_EQ(w.ChaineGrille, joined(complete_grid));
   EXPECT_TRUE(globals.GrilleOk);
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
   EXPECT_EQ(desktop.pointers, (std::vector{Pointer::hourglass, Pointer::arrow}));
   EXPECT_TRUE(w.visible(Control::Bouton_GO));
   EXPECT_TRUE(w.visible(Control::Command1));
@@ -282,14 +282,14 @@ TEST_F(Search, WalksAFullGridOnceAndShowsItUnchanged) {
   EXPECT_EQ(w.NumCase, 82);
   EXPECT_EQ(shown(w), complete_grid);
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::black), all_cells());
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
 }
 
 TEST_F(Search, OnAFullGridWithAClashEndsGoodAndCallsItImpossible) {
   game.draw(full_with_a_clash());
   w.Resoudre();
   EXPECT_TRUE(globals.GrilleOk);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::exclamation)});
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::red), "r1c1");
   EXPECT_EQ(w.NumCase, 82);
 }
@@ -303,7 +303,7 @@ TEST_F(Search, OnClashingGivensReddensTheFirstCellAndEndsImpossible) {
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::red), "r1c1");
   EXPECT_LT(w.NumCase, 1);
   EXPECT_FALSE(globals.GrilleOk);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_EQ(shown(w), before);
   EXPECT_EQ(desktop.pointers.back(), Pointer::arrow);
   EXPECT_TRUE(w.MSF.tab_stop());
@@ -316,7 +316,7 @@ TEST_F(Search, FindsAPuzzleWithoutSolutionImpossible) {
   w.ChaineSolution = "as it was";
   w.Resoudre();
   EXPECT_EQ(w.NumCase, 0);
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::critical)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
   EXPECT_EQ(w.ChaineSolution, "as it was");
 }
 
@@ -395,7 +395,7 @@ TEST_F(Search, EndsWhenASearchInsideItLeftTheGridBeforeTheFirstCell) {
   w.Resoudre();
   EXPECT_EQ(w.NumCase, -1);
   EXPECT_LT(w.Colonne, 1);
-  EXPECT_EQ(desktop.boxes, (std::vector(3, message(13, Icon::critical))));
+  EXPECT_EQ(desktop.boxes, (std::vector(3, message(Message::impossible, Icon::critical))));
   EXPECT_TRUE(desktop.at_step.empty());
 }
 

@@ -64,20 +64,24 @@ bool removes_exactly(const Deduction& deduction, const CandidateCube& before,
   return true;
 }
 
-/// A position that runs come to, with its links, and with pairs that solved cells might have had.
-std::vector<Position> positions() {
-  std::vector<Position> all;
+/// The position with its links, and with pairs that solved cells might have had.
+Position with_tables(Position position) {
+  position.links = links_of(position.candidates);
+  for (int cell = 2; cell <= 81; cell += 2)
+    if (const int value = position.candidates.value(cell_at(cell)); value > 0)
+      position.pairs[cell] = {static_cast<std::uint8_t>(value == 1 ? 1 : value - 1),
+                              static_cast<std::uint8_t>(value == 1 ? 2 : value)};
+  return position;
+}
+
+/// So many of the positions that runs come to, spread evenly over all of them.
+std::vector<Position> positions(std::size_t wanted) {
+  std::vector<Position> all, chosen;
   for (const Puzzle& puzzle : puzzles())
-    play(puzzle_of(puzzle), [&](const Event& event) {
-      Position position = event.before;
-      position.links = links_of(position.candidates);
-      for (int cell = 1; cell <= 81; ++cell)
-        if (const int value = position.candidates.value(cell_at(cell)); value > 0 && cell % 2 == 0)
-          position.pairs[cell] = {static_cast<std::uint8_t>(value == 1 ? 1 : value - 1),
-                                  static_cast<std::uint8_t>(value == 1 ? 2 : value)};
-      all.push_back(std::move(position));
-    });
-  return all;
+    play(puzzle_of(puzzle), [&](const Event& event) { all.push_back(event.before); });
+  for (std::size_t i = 0; i < wanted && wanted <= all.size(); ++i)
+    chosen.push_back(with_tables(all[i * all.size() / wanted]));
+  return chosen;
 }
 
 /// What is wrong with a technique's answer on the position; empty when nothing is.
@@ -97,8 +101,8 @@ std::string fault_of(const Technique& technique, const Position& position) {
 }
 
 TEST(Finders, LeaveThePositionAloneAndSayExactlyWhatIsRemoved) {
-  const std::vector<Position> all = positions();
-  EXPECT_GE(all.size(), 2000u);
+  const std::vector<Position> all = positions(2000);
+  ASSERT_EQ(all.size(), 2000u);
   std::set<std::string_view> fired;
   for (const Position& position : all)
     for (const Technique& technique : techniques) {

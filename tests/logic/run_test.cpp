@@ -70,13 +70,25 @@ TEST(Runs, TryTheTechniquesInTheirOrderAndBeginAgainAfterOneThatFired) {
   EXPECT_EQ(asked, (std::vector<std::string>{"a", "twice", "a", "twice", "a", "twice", "c"}));
 }
 
+int calls = 0;
+
+std::optional<Deduction> count_call(const Position&) {
+  ++calls;
+  return std::nullopt;
+}
+
 TEST(Runs, AskEveryTechniqueBeforeTheyAreExhausted) {
-  static std::vector<int> places;
-  places.clear();
-  sdk::Run run = run_on(no_digit);
-  EXPECT_EQ(run.next().kind, EventKind::exhausted);
-  // Places never move, and at 19 the links are built for the two after it.
+  std::array counting = techniques;
+  for (Technique& technique : counting) technique.find = count_call;
+  calls = 0;
+  EXPECT_EQ(sdk::Run(open_position({}), counting).next().kind, EventKind::exhausted);
+  EXPECT_EQ(calls, 20);
+}
+
+TEST(Runs, TryTechniquesByPlacesThatNeverMove) {
+  std::vector<int> places;
   for (const Technique& technique : techniques) places.push_back(technique.place);
+  // At 19 the links are built for the two after it.
   EXPECT_EQ(places,
             (std::vector{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 20, 21}));
 }

@@ -60,7 +60,7 @@ TEST_F(Driver, AFullGridIsCompletedAtOnceEvenWhenItBreaksTheRules) {
   const std::string before = shown(w);
   game.hint();
   EXPECT_EQ(game.events, (Lines{"completed"}));
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
   EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines"}));
   EXPECT_EQ(shown(w), before);
   EXPECT_TRUE(solver.GrilleFinie);
@@ -87,8 +87,8 @@ TEST_F(Driver, TheLastPlacementIsFollowedByTwoBoxes) {
   game.hint();
   ASSERT_EQ(desktop.boxes.size(), 3u);
   EXPECT_EQ(desktop.boxes[0].buttons, Buttons::yes_no);
-  EXPECT_EQ(desktop.boxes[1], message(14, Icon::exclamation));
-  EXPECT_EQ(desktop.boxes[2], message(14, Icon::exclamation));
+  EXPECT_EQ(desktop.boxes[1], message(Message::completed, Icon::exclamation));
+  EXPECT_EQ(desktop.boxes[2], message(Message::completed, Icon::exclamation));
   EXPECT_EQ(game.events, (Lines{"naked r1c1=1", "completed"}));
 }
 
@@ -149,7 +149,7 @@ TEST_F(Driver, WhenNothingIsFoundTheGridIsReadAndThePlayerTold) {
   w.set_focus(Control::Command8);
   game.hint();
   EXPECT_EQ(game.events.back(), "exhausted");
-  EXPECT_EQ(desktop.boxes, std::vector{message(32, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::no_suggestion, Icon::exclamation)});
   EXPECT_EQ(game.repaints, (Lines{"lines", "lines"}));
   EXPECT_EQ(w.focus(), Control::MSF);
   EXPECT_EQ(w.Grille(5, 5), 0);

@@ -55,6 +55,43 @@ TEST_F(Singles, ACellThatIsBothIsOfferedAsANakedSingle) {
   EXPECT_EQ(offers(), (Lines{"naked r5c5=9"}));
 }
 
+// The searches
+
+TEST_F(Singles, ANakedSingleIsOfferedByItsCountAndItsLowestFlag) {
+  open_cube();
+  set_candidates({4, 6}, {3, 8});
+  Candidats.set_count({4, 6}, 1);
+  EXPECT_TRUE(singleton_nu());
+  EXPECT_EQ(game.questions(), (Lines{" Singleton nu L4 C6 3"}));
+}
+
+TEST_F(Singles, NoNakedSingleAsksNothing) {
+  open_cube();
+  set_candidates({1, 1}, {3, 8});
+  Candidats.fill({1, 2}, 4);  // counts 0
+  const CandidateCube before = Candidats;
+  EXPECT_FALSE(singleton_nu());
+  EXPECT_EQ(Candidats, before);
+  EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(Singles, AHiddenSingleIsOfferedWhereItsDigitHasItsOnlyPlace) {
+  open_cube();
+  keep_places(box(9), 4, {1});
+  EXPECT_TRUE(singleton_cache());
+  EXPECT_EQ(game.questions(), (Lines{" Singleton caché L7 C7 4"}));
+}
+
+TEST_F(Singles, NoHiddenSingleAsksNothing) {
+  open_cube();
+  keep_places(box(5), 7, {1, 9});
+  keep_places(box(9), 3, {});
+  const CandidateCube before = Candidats;
+  EXPECT_FALSE(singleton_cache());
+  EXPECT_EQ(Candidats, before);
+  EXPECT_TRUE(desktop.boxes.empty());
+}
+
 // The offer
 
 TEST_F(Singles, TheQuestionNamesTechniqueCellAndDigitInBothLanguages) {
@@ -122,7 +159,8 @@ TEST_F(Singles, WithoutStepModeANakedSingleIsEnteredSilentlyAndTheRunStops) {
   draw_without({{2, 4}, {2, 9}});
   ASSERT_FALSE(globals.ModePasAPas);
   suggestion();
-  EXPECT_EQ(offers(), (Lines{}));
+  ASSERT_EQ(solver.hint->events().size(), 1u);
+  EXPECT_EQ(told(solver.hint->events().front()), "naked r2c4=7");
   EXPECT_TRUE(desktop.boxes.empty());
   EXPECT_EQ(Candidats.value({2, 4}), 7);
   EXPECT_EQ(Candidats.value({2, 9}), 0);

@@ -60,7 +60,7 @@ class Procedures : public testing::Test {
 TEST_F(Procedures, ApplyWhatTheirFinderFinds) {
   for (const auto& procedure : procedures) {
     solver.position = position_for(procedure);
-    const auto found = find_by(*technique_with(procedure.technique), solver.position);
+    const auto found = find_by(technique_at(row_with(procedure.technique)), solver.position);
     ASSERT_TRUE(found) << procedure.technique;
     Position after = solver.position;
     apply(*found, after);

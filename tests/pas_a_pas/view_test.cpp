@@ -104,6 +104,29 @@ TEST_F(View, OutsideAHintTheRedrawKeepsTheTextColour) {
   EXPECT_EQ(game.candidates(5, 6).text_colour, colour::green);
 }
 
+TEST_F(View, TheRecomputeShowsACellOfTwoCandidatesTheSmallerFirst) {
+  for (const int digit : {1, 2, 4, 5, 6, 7, 9}) Candidats.remove({2, 3}, digit);
+  maj_candidats();
+  EXPECT_EQ(game.candidates(2, 3).text, "3 , 8");
+  EXPECT_EQ(game.candidates(2, 4).text, " ") << "no other cell is written";
+}
+
+TEST_F(View, APairIsShownAfterEveryRecompute) {
+  set_candidates({2, 3}, {3, 8});
+  maj_candidats();
+  w.MSR.set_text(1, 2, "?");
+  maj_candidats();
+  EXPECT_EQ(game.candidates(2, 3).text, "3 , 8");
+}
+
+TEST_F(View, CandidatesAreNumberedUpwards) {
+  set_candidates({2, 3}, {3, 5, 9});
+  EXPECT_EQ(nieme_candidat(2, 3, 1), 3);
+  EXPECT_EQ(nieme_candidat(2, 3, 2), 5);
+  EXPECT_EQ(nieme_candidat(2, 3, 3), 9);
+  EXPECT_EQ(nieme_candidat(2, 3, 4), 0);
+}
+
 // Marks
 
 TEST_F(View, EveryModeHasItsLook) {

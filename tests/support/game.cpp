@@ -236,9 +236,8 @@ void Game::forget() {
   msr.changes_while_visible = msr.times_hidden = 0;
 }
 
-Box message(int index, Icon icon) {
-  return {globals.Messages[static_cast<std::size_t>(index)], icon, Buttons::ok,
-          globals.TitreFenetre};
+Box message(Message message, Icon icon) {
+  return {text_of(message), icon, Buttons::ok, globals.TitreFenetre};
 }
 
 }  // namespace sdk::test

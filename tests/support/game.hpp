@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "game/message.hpp"
 #include "tests/support/fake_desktop.hpp"
 #include "ui/main_window.hpp"
 
@@ -98,7 +99,7 @@ class Game : private WindowListener {
   void refresh() override { repaints.push_back("refresh window"); }
 };
 
-/// A box with entry `index` of `Messages`, an OK button and the program's title.
-Box message(int index, Icon icon);
+/// A box with the text of that message, an OK button and the program's title.
+Box message(Message message, Icon icon);
 
 }  // namespace sdk::test

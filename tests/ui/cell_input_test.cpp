@@ -208,7 +208,7 @@ TEST_F(CellInput, TheLastDigitOfACorrectGridAnnouncesCompletionInFrenchAndEnglis
 TEST_F(CellInput, TheLastDigitWithAClashIsCalledImpossible) {
   draw_and_select(all_but_the_last(), 9, 9);
   game.press('4');
-  EXPECT_EQ(desktop.boxes, std::vector{message(13, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::exclamation)});
   EXPECT_EQ(game.cell(9, 9).text, "4");
 }
 
@@ -219,7 +219,7 @@ TEST_F(CellInput, ARefusedDigitOnAFullGridRepeatsTheCompletionBox) {
   game.forget();
   game.press('7');
   EXPECT_EQ(game.cell(1, 1).text, "1");
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
 }
 
 // Erasing

@@ -177,7 +177,7 @@ TEST_F(Commands, ClearOfAFullGridOfGivensAnnouncesItAgain) {
   game.forget();
   w.click(Control::Command2);
   EXPECT_EQ(shown(w), complete_grid);
-  EXPECT_EQ(desktop.boxes, std::vector{message(14, Icon::exclamation)});
+  EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
 }
 
 // Options and level

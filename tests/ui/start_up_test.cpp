@@ -74,7 +74,7 @@ TEST_F(StartUp, NamesTheProgramAndItsVersion) {
   EXPECT_EQ(globals.TitreFenetre, std::string("SuDoKu ") + program_version);
   EXPECT_EQ(globals.TitreFenetre, "SuDoKu 1.0.0");
   EXPECT_EQ(w.title(), globals.TitreFenetre);
-  EXPECT_EQ(w.control(Control::Label3).caption, globals.TitreFenetre + globals.Messages[15]);
+  EXPECT_EQ(w.control(Control::Label3).caption, globals.TitreFenetre + text_of(Message::credit));
 }
 
 TEST_F(StartUp, ShowsEveryControlButTheCandidates) {

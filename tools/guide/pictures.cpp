@@ -4,7 +4,6 @@
 #include "tools/guide/pictures.hpp"
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 #include <utility>
 

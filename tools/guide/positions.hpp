@@ -19,13 +19,13 @@ struct FormerPair {
 };
 
 struct GuidePosition {
-  int place;              ///< of the technique, in the order of the driver
+  int place;              ///< of the technique, in the order of logic/techniques.hpp
   std::string_view grid;  ///< 81 characters row by row, "." an empty cell
   /// What a hint has forgotten, where the technique needs it.
   std::vector<FormerPair> former_pairs = {};
 };
 
-/// In the order of the driver; every technique that removes candidates has one.
+/// In that order; every technique that removes candidates has one.
 const std::vector<GuidePosition>& positions();
 
 }  // namespace sdk

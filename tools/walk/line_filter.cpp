@@ -3,6 +3,7 @@
 
 #include "tools/walk/line_filter.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <condition_variable>
 #include <map>
@@ -10,6 +11,7 @@
 #include <optional>
 #include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace sdk {
@@ -22,9 +24,9 @@ struct Batch {
   std::vector<std::string> lines;
 };
 
-constexpr std::size_t batch_size = 64;
+constexpr std::size_t batch_size = 16;
 /// How far a thread may run ahead of what is written.
-constexpr long batches_ahead = 4;
+constexpr long batches_ahead = 16;
 
 Processed process_all(const Batch& batch, const ProcessLine& process) {
   Processed all;
@@ -38,16 +40,72 @@ Processed process_all(const Batch& batch, const ProcessLine& process) {
   return all;
 }
 
+std::string in_words(int error) { return std::generic_category().message(error); }
+
+/// Hands out lines as soon as they are there, without waiting for the rest of the next one.
+class LineReader {
+ public:
+  explicit LineReader(std::istream& in) : in_(in) {}
+
+  /// Up to `most` lines; waits only for the first one. None at the end of the input.
+  std::vector<std::string> take(std::size_t most) {
+    std::vector<std::string> lines;
+    while (lines.size() < most && has_line(lines.empty())) lines.push_back(take_line());
+    return lines;
+  }
+
+  /// Why reading broke off; empty at an end without a failure.
+  const std::string& failure() const { return failure_; }
+
+ private:
+  /// A whole line has been read, or what is left before the end is one.
+  bool has_line(bool may_wait) {
+    while (text_.find('\n', at_) == text_.npos)
+      if (!may_wait || !read_more()) return may_wait && at_ < text_.size();
+    return true;
+  }
+
+  std::string take_line() {
+    const std::size_t end = std::min(text_.find('\n', at_), text_.size());
+    std::string line = text_.substr(at_, end - at_);
+    at_ = std::min(end + 1, text_.size());
+    return line;
+  }
+
+  /// Waits for input, and takes all that is there then.
+  bool read_more() {
+    const bool is_there = in_.peek() != std::istream::traits_type::eof();
+    if (in_.bad()) failure_ = "standard input: " + in_words(EIO);
+    if (!is_there) return false;
+    text_.erase(0, std::exchange(at_, 0));
+    const std::size_t before = text_.size();
+    text_.resize(before +
+                 static_cast<std::size_t>(std::max<std::streamsize>(1, in_.rdbuf()->in_avail())));
+    in_.read(text_.data() + before, static_cast<std::streamsize>(text_.size() - before));
+    return true;
+  }
+
+  std::istream& in_;
+  std::string text_;  ///< read, and handed out up to here:
+  std::size_t at_ = 0;
+  std::string failure_;
+};
+
 class LineFilter {
  public:
   LineFilter(std::istream& in, std::ostream& out, std::ostream& errors, int threads)
-      : in_(in), out_(out), errors_(errors), threads_(threads) {}
+      : reader_(in), out_(out), errors_(errors), threads_(threads) {}
 
   FilterEnd run(const ProcessLine& process) {
     std::vector<std::jthread> others;
-    for (int n = 1; n < threads_; ++n) others.emplace_back([&] { work(process); });
+    try {
+      for (int n = 1; n < threads_; ++n) others.emplace_back([&] { work(process); });
+    } catch (const std::system_error&) {
+      // The system grants no more threads; those that there are do all the work.
+    }
     work(process);
     others.clear();
+    if (end_.failure.empty()) end_.failure = reader_.failure();
     return end_;
   }
 
@@ -61,11 +119,8 @@ class LineFilter {
   std::optional<Batch> take() {
     const std::scoped_lock reading(input_);
     wait_for_room();
-    Batch batch{taken_, lines_read_ + 1, {}};
-    for (std::string line; !has_failed() && std::getline(in_, line);) {
-      batch.lines.push_back(std::move(line));
-      if (batch.lines.size() == batch_size || in_.rdbuf()->in_avail() <= 0) break;
-    }
+    if (has_failed()) return std::nullopt;
+    Batch batch{taken_, lines_read_ + 1, reader_.take(batch_size)};
     if (batch.lines.empty()) return std::nullopt;
     ++taken_;
     lines_read_ += static_cast<long>(batch.lines.size());
@@ -91,7 +146,7 @@ class LineFilter {
   void write(const Processed& processed) {
     errno = 0;
     out_ << processed.output << std::flush;
-    if (!out_ && end_.failure.empty()) end_.failure = std::generic_category().message(errno);
+    if (!out_ && end_.failure.empty()) end_.failure = "standard output: " + in_words(errno);
     errors_ << processed.errors << std::flush;
     end_.had_faults |= processed.is_fault;
   }
@@ -101,7 +156,7 @@ class LineFilter {
     return !end_.failure.empty();
   }
 
-  std::istream& in_;
+  LineReader reader_;
   std::ostream& out_;
   std::ostream& errors_;
   const int threads_;

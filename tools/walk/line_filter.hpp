@@ -19,13 +19,16 @@ struct Processed {
 
 struct FilterEnd {
   bool had_faults = false;  ///< some line was one
-  std::string failure;      ///< why `out` took no more, in the system's words; else empty
+  /// What failed and why: "standard input: ..." where reading broke off, "standard output: ..."
+  /// where nothing more was taken; else empty.
+  std::string failure;
 };
 
-/// Called on several threads at once; `number` counts all lines from 1.
+/// Called on several threads at once; `number` counts all lines from 1. It must not throw.
 using ProcessLine = std::function<Processed(const std::string& line, long number)>;
 
-/// Processes every line of `in` on that many threads (1 or more). What comes of them is written to
+/// Processes every line of `in` on that many threads (1 or more), or on those that the system
+/// grants. What comes of them is written to
 /// `out` and `errors` in the order of the lines; whatever the length of the input, only some
 /// hundred lines a thread are held at a time. Where the input comes slowly nothing waits for lines
 /// that are not there yet. Once `out` takes no more, nothing more is read.

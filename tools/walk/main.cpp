@@ -54,7 +54,7 @@ Output, for each puzzle:
 
 A line that is no puzzle gives "error line <n>: <why>" on standard error; every line counts in <n>,
 and a carriage return at a line's end is ignored. The other lines are still played, and the exit
-status is 1. A wrong option gives exit status 2.
+status is 1, as it is when the input or the output fails. A wrong option gives exit status 2.
 )";
 
 /// More threads than any machine of today has processors.
@@ -86,7 +86,7 @@ int play_all(const Order& order) {
   };
   const auto [had_faults, failure] =
       sdk::filter_lines(std::cin, std::cout, std::cerr, order.jobs, process_line);
-  if (!failure.empty()) std::cerr << "error standard output: " << failure << '\n';
+  if (!failure.empty()) std::cerr << "error " << failure << '\n';
   return had_faults || !failure.empty() ? 1 : 0;
 }
 

@@ -4,6 +4,7 @@
 #include "tools/walk/walk.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "board/grid_text.hpp"
 #include "explanations/explanations.hpp"
@@ -37,12 +38,12 @@ std::string eliminations(const Deduction& deduction) {
   return items;
 }
 
-std::string offer(const Deduction& deduction) {
+std::string told_offer(const Deduction& deduction) {
   const auto [cell, digit] = *deduction.placement;
   return (is_naked_single(deduction) ? "N " : "H ") + name_of(cell) + "=" + std::to_string(digit);
 }
 
-std::string dead_end(const Deduction& deduction) {
+std::string told_dead_end(const Deduction& deduction) {
   return "E dead " + name_of(cell_at(*deduction.cells_as(Role::pattern).begin()));
 }
 
@@ -52,11 +53,11 @@ std::string told(const Event& event) {
     case EventKind::removal:
       return "T" + two_digits(event.deduction.technique->place) + eliminations(event.deduction);
     case EventKind::offer:
-      return offer(event.deduction);
+      return told_offer(event.deduction);
     case EventKind::completed:
       return "E completed";
     case EventKind::dead:
-      return dead_end(event.deduction);
+      return told_dead_end(event.deduction);
     case EventKind::exhausted:
       return "E exhausted";
   }

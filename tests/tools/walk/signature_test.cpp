@@ -16,7 +16,7 @@ TEST(Signature, OfTheLibrarysWalksIsTheKnownOne) {
   EXPECT_EQ(library_signature(), expected)
       << "The walk of a library puzzle has changed: another removal, another offer, another mark "
          "or "
-         "another order. If that is meant, compare the output of sudoku-walk before and after on "
+         "another order. If it is to change, compare the output of sudoku-walk before and after on "
          "many puzzles, and then write the number that `sudoku-walk --signature` prints into "
       << __FILE__ << ".";
 }

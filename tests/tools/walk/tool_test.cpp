@@ -191,17 +191,31 @@ TEST(Walk, OnSeveralThreadsIsTheSameInTheOrderOfTheInput) {
   }
 }
 
-TEST(Walk, AnswersBeforeTheInputEnds) {
-  // The second line comes only once the first one's walk has been read.
+TEST(Walk, AnswersBeforeTheNextLineIsThere) {
+  // The rest of the second line comes only once the first one's walk has been read.
   const ToolRun run = run_tool(
       "folder=$(mktemp -d); input=$folder/input; mkfifo $input; "
       "(" SUDOKU_WALK
-      " < $input | (read line; echo \"$line\"; touch $folder/read; cat >/dev/null)) & "
-      "exec 3> $input; echo '" +
-      no_digit +
+      " < $input | (read line; echo \"$line\"; touch $folder/read; tail -n 1)) & "
+      "exec 3> $input; printf '" +
+      no_digit + "\\n" + nearly_full.substr(0, 40) +
       "' >&3; for i in $(seq 100); do [ -e $folder/read ] && break; sleep 0.1; done; "
-      "[ -e $folder/read ] && echo in time; exec 3>&-; wait; rm -r $folder");
-  EXPECT_EQ(run.output, "grid " + no_digit + "\nin time\n");
+      "[ -e $folder/read ] && echo in time; printf '" +
+      nearly_full.substr(40) + "' >&3; exec 3>&-; wait; rm -r $folder");
+  EXPECT_EQ(run.output, "grid " + no_digit + "\nin time\nE completed | 3= 4= 6=\n");
+}
+
+TEST(Walk, GoesOnWithFewerThreadsWhereTheSystemGrantsNoMore) {
+  const ToolRun run =
+      run_tool("ulimit -v 300000; printf '" + nearly_full + "\\n' | " SUDOKU_WALK " --jobs 1024");
+  EXPECT_EQ(run.output, walk_of_nearly_full);
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Walk, SaysThatItsInputCannotBeRead) {
+  const ToolRun run = run_tool(SUDOKU_WALK " 2>&1 < /tmp");
+  EXPECT_EQ(run.output, "error standard input: Input/output error\n");
+  EXPECT_EQ(run.status, 1);
 }
 
 TEST(Walk, SaysThatItsOutputCannotBeWritten) {
@@ -213,8 +227,14 @@ TEST(Walk, SaysThatItsOutputCannotBeWritten) {
 // Options
 
 TEST(Walk, TakesOptionsInAnyOrder) {
-  EXPECT_EQ(walk(nearly_full + "\\n", "--jobs 3 --explain en").output,
-            walk(nearly_full + "\\n", "--explain en --jobs 3").output);
+  const std::string explained = explained_walk(nearly_full, "En");
+  EXPECT_EQ(walk(nearly_full + "\\n", "--jobs 3 --explain en").output, explained);
+  EXPECT_EQ(walk(nearly_full + "\\n", "--explain en --jobs 3").output, explained);
+}
+
+TEST(Walk, IsTheSameWhenRunTwice) {
+  const std::string puzzle = puzzle_text(BibliothequeGrilles[33]);
+  EXPECT_EQ(sdk::walk(puzzle), sdk::walk(puzzle));
 }
 
 TEST(Walk, ExplainsInEnglishAndFrench) {
@@ -240,10 +260,10 @@ TEST(Walk, ReportsFaultsWhileExplainingToo) {
 TEST(Walk, TheHelpTellsInputOutputAndOptions) {
   const ToolRun run = run_tool(SUDOKU_WALK " --help");
   EXPECT_EQ(run.status, 0);
-  for (const char* part :
-       {"usage: sudoku-walk", "81 characters", "'.' or '0'", "'#'", "grid <81", "T<place>",
-        "N r<r>c<c>=<d>", "H r<r>c<c>=<d>", "E completed", "E exhausted", "E dead", "<marks>",
-        "--explain en|fr", "--signature", "--help", "error line <n>", "status is 1", "status 2"})
+  for (const char* part : {"usage: sudoku-walk", "81 characters", "'.' or '0'", "'#'", "grid <81",
+                           "T<place>", "N r<r>c<c>=<d>", "H r<r>c<c>=<d>", "E completed",
+                           "E exhausted", "E dead", "<marks>", "--explain en|fr", "--jobs N",
+                           "--signature", "--help", "error line <n>", "status is 1", "status 2"})
     EXPECT_NE(run.output.find(part), std::string::npos) << part;
 }
 
@@ -253,9 +273,9 @@ TEST(Walk, TheSignatureIsOneNumber) {
 }
 
 TEST(Walk, RefusesOtherArguments) {
-  for (const char* arguments :
-       {"--explain", "--explain de", "--explain en fr", "--walk", "file", "--help me",
-        "--signature 2", "--jobs", "--jobs 0", "--jobs -1", "--jobs 2x", "--jobs 99999"}) {
+  for (const char* arguments : {"--explain", "--explain de", "--explain en fr", "--walk", "file",
+                                "--help me", "--signature 2", "--explain en --explain de", "--jobs",
+                                "--jobs 0", "--jobs -1", "--jobs 2x", "--jobs 99999"}) {
     const ToolRun run = run_tool(SUDOKU_WALK " " + std::string(arguments));
     EXPECT_EQ(run.status, 2) << arguments;
     EXPECT_EQ(run.output.find("usage: sudoku-walk"), 0u) << arguments;
