@@ -40,12 +40,19 @@ int find_goal(Steps& steps, const LinkTable& strong, int from, const CellSet& go
 
 }  // namespace
 
-void rest_on_chain(Draft& draft, const Position& position, int from, const CellSet& goals,
-                   int digit) {
+CellSet chain_between(const LinkTable& strong, int from, const CellSet& goals, int digit) {
   Steps steps{};
-  int cell = find_goal(steps, position.links.strong, from, goals, digit);
-  for (; cell != 0 && cell != from; cell = step_to(steps, cell))
-    rest_on_link(draft, position, step_to(steps, cell), cell, digit);
+  CellSet chain;
+  int cell = find_goal(steps, strong, from, goals, digit);
+  for (; cell != 0 && cell != from; cell = step_to(steps, cell)) chain.insert(cell);
+  if (!chain.empty() || goals.contains(from)) chain.insert(from);
+  return chain;
+}
+
+void rest_on_links(Draft& draft, const Position& position, const CellSet& cells, int digit) {
+  for (const int cell : cells)
+    for (const int linked : position.links.strong.of(digit, cell) & cells)
+      if (cell < linked) rest_on_link(draft, position, cell, linked, digit);
 }
 
 }  // namespace sdk

@@ -35,11 +35,11 @@ Draft begin_draft(const Position& position, const ColourTable& colours, int digi
   return draft;
 }
 
-/// The deduction rests on a chain between two cells of both colours that the cell sees.
-void rest_on_seen(Draft& draft, const Position& position, const ColourTable& colours, int cell,
-                  int digit) {
+/// A chain between two cells of both colours that the cell sees.
+CellSet chain_seen_from(int cell, const Position& position, const ColourTable& colours, int digit) {
   const CellSet first = colours.cells(1) & peers_of(cell);
-  rest_on_chain(draft, position, *first.begin(), colours.cells(-1) & peers_of(cell), digit);
+  return chain_between(position.links.strong, *first.begin(), colours.cells(-1) & peers_of(cell),
+                       digit);
 }
 
 bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
@@ -49,12 +49,14 @@ bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & 
 std::optional<Deduction> find_trap(const Position& position, const ColourTable& colours,
                                    int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::trap);
+  CellSet used;
   for (const int cell : position.candidates.cells_with(digit) - colours.coloured())
     if (see_each_other(cell, colours.cells(1)) && see_each_other(cell, colours.cells(-1))) {
       draft.eliminate_shown(cell_at(cell), {digit});
-      rest_on_seen(draft, position, colours, cell, digit);
+      used |= chain_seen_from(cell, position, colours, digit);
     }
   if (!draft.deduction.removes_something()) return std::nullopt;
+  rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }
 
@@ -65,11 +67,13 @@ namespace {
 Deduction deduce_wrap(const Position& position, const ColourTable& colours, int clashing,
                       int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
+  CellSet used;
   for (const int number : colours.cells(colours(clashing))) {
-    rest_on_chain(draft, position, number, {clashing}, digit);
+    used |= chain_between(position.links.strong, number, {clashing}, digit);
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
     draft.eliminate(cell_at(number), {digit});
   }
+  rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }
 
