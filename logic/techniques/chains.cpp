@@ -23,13 +23,14 @@ using Steps = std::array<int, 82>;
 int& step_to(Steps& steps, int cell) { return steps[static_cast<std::size_t>(cell)]; }
 
 /// Goes along the links, nearest cells first; the goal that is reached first, 0 when none is.
-int find_goal(Steps& steps, const LinkTable& strong, int from, const CellSet& goals, int digit) {
+int find_goal(Steps& steps, const LinkTable& strong, const ColourTable& colours, int from,
+              const CellSet& goals, int digit) {
   std::deque<int> reached{from};
   step_to(steps, from) = from;
   for (; !reached.empty(); reached.pop_front()) {
     const int cell = reached.front();
     if (goals.contains(cell)) return cell;
-    for (const int linked : strong.of(digit, cell)) {
+    for (const int linked : strong.of(digit, cell) & colours.cells(-colours(cell))) {
       if (step_to(steps, linked) != 0) continue;
       step_to(steps, linked) = cell;
       reached.push_back(linked);
@@ -40,10 +41,11 @@ int find_goal(Steps& steps, const LinkTable& strong, int from, const CellSet& go
 
 }  // namespace
 
-CellSet chain_between(const LinkTable& strong, int from, const CellSet& goals, int digit) {
+CellSet chain_between(const LinkTable& strong, const ColourTable& colours, int from,
+                      const CellSet& goals, int digit) {
   Steps steps{};
   CellSet chain;
-  int cell = find_goal(steps, strong, from, goals, digit);
+  int cell = find_goal(steps, strong, colours, from, goals, digit);
   for (; cell != 0 && cell != from; cell = step_to(steps, cell)) chain.insert(cell);
   if (!chain.empty() || goals.contains(from)) chain.insert(from);
   return chain;

@@ -6,6 +6,7 @@
 
 #include "board/cell_set.hpp"
 #include "logic/draft.hpp"
+#include "logic/techniques/colouring.hpp"
 
 namespace sdk {
 
@@ -15,8 +16,9 @@ void rest_on_link(Draft& draft, const Position& position, int cell1, int cell2, 
 /// The deduction rests on every strong link between two of the cells.
 void rest_on_links(Draft& draft, const Position& position, const CellSet& cells, int digit);
 
-/// The cells of a shortest chain of strong links from the cell to one of the goals, both ends
-/// included; none when no chain joins them.
-CellSet chain_between(const LinkTable& strong, int from, const CellSet& goals, int digit);
+/// The cells of a shortest chain from the cell to one of the goals, both ends included, along
+/// strong links between cells of different colours; none when no such chain joins them.
+CellSet chain_between(const LinkTable& strong, const ColourTable& colours, int from,
+                      const CellSet& goals, int digit);
 
 }  // namespace sdk

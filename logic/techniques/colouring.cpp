@@ -38,8 +38,8 @@ Draft begin_draft(const Position& position, const ColourTable& colours, int digi
 /// A chain between two cells of both colours that the cell sees.
 CellSet chain_seen_from(int cell, const Position& position, const ColourTable& colours, int digit) {
   const CellSet first = colours.cells(1) & peers_of(cell);
-  return chain_between(position.links.strong, *first.begin(), colours.cells(-1) & peers_of(cell),
-                       digit);
+  return chain_between(position.links.strong, colours, *first.begin(),
+                       colours.cells(-1) & peers_of(cell), digit);
 }
 
 bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
@@ -69,7 +69,7 @@ Deduction deduce_wrap(const Position& position, const ColourTable& colours, int 
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
   CellSet used;
   for (const int number : colours.cells(colours(clashing))) {
-    used |= chain_between(position.links.strong, number, {clashing}, digit);
+    used |= chain_between(position.links.strong, colours, number, {clashing}, digit);
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
     draft.eliminate(cell_at(number), {digit});
   }
