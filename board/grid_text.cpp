@@ -51,4 +51,11 @@ std::string digits_of(const Square<std::int16_t>& grid) {
   return digits;
 }
 
+std::string name_of(Unit unit) {
+  const char* const kind = unit.kind == UnitKind::row      ? "row "
+                           : unit.kind == UnitKind::column ? "column "
+                                                           : "box ";
+  return kind + std::to_string(unit.number);
+}
+
 }  // namespace sdk

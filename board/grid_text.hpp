@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "board/cells.hpp"
 #include "board/square.hpp"
 
 namespace sdk {
@@ -27,5 +28,8 @@ Square<std::int16_t> puzzle_of(std::string_view line);
 
 /// The values of a grid one after the other; 81 characters when all of them are 0..9.
 std::string digits_of(const Square<std::int16_t>& grid);
+
+/// "row 2", "column 2" or "box 2".
+std::string name_of(Unit unit);
 
 }  // namespace sdk

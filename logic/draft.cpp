@@ -41,9 +41,7 @@ void Draft::clear_column_outside_box(int digit, int column, int box) {
 void Draft::rest_on(Cell cell) { add(CellHolds{cell, position_.candidates.digits(cell)}); }
 
 void Draft::rest_on(Unit unit, int digit) {
-  CellSet cells;
-  for (const int place : position_.candidates.places(unit, digit)) cells.insert(unit.cell(place));
-  add(DigitInUnit{unit, digit, cells});
+  add(DigitInUnit{unit, digit, cells_with(position_, unit, digit)});
 }
 
 void Draft::add(const Premise& premise) {

@@ -99,6 +99,12 @@ void apply(const Deduction& deduction, Position& position) {
   position.candidates.remove(cell, digit);
 }
 
+CellSet cells_with(const Position& position, Unit unit, int digit) {
+  CellSet cells;
+  for (const int place : position.candidates.places(unit, digit)) cells.insert(unit.cell(place));
+  return cells;
+}
+
 int candidate_total(const Position& position, Unit unit) {
   int total = 0;
   for (int place = 1; place <= 9; ++place) total += position.candidates.count(unit.cell(place));

@@ -50,6 +50,8 @@ inline int digit_count(const Position& position, Unit unit, int digit) {
 inline int digit_count_in_box(const Position& position, Unit line, int box, int digit) {
   return (position.candidates.places(line, digit) & places_in_box(line.kind, box)).count();
 }
+/// The cells of the unit where the digit is a candidate.
+CellSet cells_with(const Position& position, Unit unit, int digit);
 /// The sum of the stored counts of the unit's cells.
 int candidate_total(const Position& position, Unit unit);
 /// The n-th candidate of the cell in ascending order; 0 when it has fewer.

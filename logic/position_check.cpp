@@ -3,6 +3,8 @@
 
 #include "logic/position_check.hpp"
 
+#include "board/grid_text.hpp"
+
 namespace sdk {
 
 namespace {
@@ -35,13 +37,6 @@ bool places_agree(const CandidateCube& cube, Unit unit) {
       if (cube.places(unit, digit).contains(place) != cube.has(unit.cell(place), digit))
         return false;
   return true;
-}
-
-std::string name_of(Unit unit) {
-  const char* const kind = unit.kind == UnitKind::row      ? "row "
-                           : unit.kind == UnitKind::column ? "column "
-                                                           : "box ";
-  return kind + std::to_string(unit.number);
 }
 
 }  // namespace

@@ -29,9 +29,7 @@ bool has_fins(const Position& position, const FinnedWing& wing) {
 /// The target sees every place of the digit on the base line.
 bool sees_whole_line(const Position& position, const FinnedWing& wing, std::size_t line,
                      Cell target) {
-  for (const int place : position.candidates.places(wing.base_line(line), wing.digit))
-    if (!peers_of(target).contains(wing.base_line(line).cell(place))) return false;
-  return true;
+  return (cells_with(position, wing.base_line(line), wing.digit) - peers_of(target)).empty();
 }
 
 /// The deduction rests on both base lines, or on one that a missing corner leaves to the target's

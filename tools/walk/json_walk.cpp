@@ -17,23 +17,19 @@ namespace {
 /// Keeps its keys in the order in which they were entered.
 using Json = nlohmann::ordered_json;
 
-std::string name_of(Unit unit) {
-  const char* const kind = unit.kind == UnitKind::row      ? "row "
-                           : unit.kind == UnitKind::column ? "column "
-                                                           : "box ";
-  return kind + std::to_string(unit.number);
+template <class Values, class Write>
+Json array_of(const Values& values, Write write) {
+  Json array = Json::array();
+  for (const auto& value : values) array.push_back(write(value));
+  return array;
 }
 
 Json names_of(const CellSet& cells) {
-  Json names = Json::array();
-  for (const int cell : cells) names.push_back(name_of(cell_at(cell)));
-  return names;
+  return array_of(cells, [](int cell) { return name_of(cell_at(cell)); });
 }
 
 Json numbers_of(NineSet digits) {
-  Json numbers = Json::array();
-  for (const int digit : digits) numbers.push_back(digit);
-  return numbers;
+  return array_of(digits, [](int digit) { return digit; });
 }
 
 struct PremiseWriter {
@@ -50,12 +46,9 @@ struct PremiseWriter {
   }
 };
 
-Json premises_of(const Deduction& deduction) {
-  Json premises = Json::array();
-  for (const Premise& premise : deduction.premises)
-    premises.push_back(std::visit(PremiseWriter(), premise));
-  return premises;
-}
+Json object_of(const Premise& premise) { return std::visit(PremiseWriter(), premise); }
+
+Json premises_of(const Deduction& deduction) { return array_of(deduction.premises, object_of); }
 
 /// Row by row, and the digits of a cell in ascending order.
 Json removals_of(const Deduction& deduction) {
