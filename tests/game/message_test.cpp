@@ -12,7 +12,7 @@
 namespace sdk::test {
 namespace {
 
-TEST(Message, NamesAPlaceOfTheTable) {
+TEST(Message, IsTheNumberOfAnEntry) {
   EXPECT_EQ(place_of(Message::new_puzzle), 0u);
   EXPECT_EQ(place_of(Message::show_bad_values), 9u);
   EXPECT_EQ(place_of(Message::credit), 15u);

@@ -105,7 +105,7 @@ TEST(Runs, BuildTheLinksBeforeTheFirstTechniqueThatReadsThem) {
   EXPECT_EQ(links_seen, (std::vector<std::size_t>{0, 20, 20}));
 }
 
-TEST(Runs, EndAtOnceOnAFullGridEvenWhenItBreaksTheRules) {
+TEST(Runs, AreOverAtTheFirstRoundOfAFullGridEvenWhenItBreaksTheRules) {
   EXPECT_EQ(kinds(run_on(std::string(81, '1'))), std::vector{EventKind::completed});
 }
 
