@@ -31,18 +31,6 @@ void CandidateCube::list(Cell cell) {
   }
 }
 
-void CandidateCube::reset() {
-  Square<NineSet> all;
-  for (int row = 1; row <= 9; ++row)
-    for (int column = 1; column <= 9; ++column) all(row, column) = NineSet::all();
-  *this = CandidateCube(all, {});
-}
-
-void CandidateCube::fill(Cell cell, int value) {
-  clear(cell);
-  set_value(cell, value);
-}
-
 bool CandidateCube::is_complete() const {
   for (int number = 1; number <= 81; ++number)
     if (values_[number] == 0) return false;

@@ -26,11 +26,6 @@ class CandidateCube {
   /// These flags and values (0 for an empty cell), every count true.
   CandidateCube(const Square<NineSet>& digits, const Square<std::uint8_t>& values);
 
-  /// Every cell is empty, has all nine candidates and the count 9.
-  void reset();
-  /// The cell holds `value` (1..9), no candidate, and the count 0.
-  void fill(Cell cell, int value);
-
   bool has(Cell cell, int digit) const { return digits(cell).contains(digit); }
   NineSet digits(Cell cell) const { return digits_(cell.row, cell.column); }
   /// 0 for an empty cell.

@@ -61,8 +61,7 @@ enum class Emphasis { support, removed };
 struct Highlight {
   Cell cell;
   std::optional<Mark> mark;
-  NineSet
-      digits;  ///< held by the cell, but for those that it has lost in the same deduction before
+  NineSet digits;  ///< of those that the deduction has not taken from the cell before
   Emphasis emphasis = Emphasis::support;
   bool operator==(const Highlight&) const = default;
 };
@@ -78,8 +77,8 @@ struct Placement {
 struct Deduction {
   const Technique* technique = nullptr;  ///< its row; null for a dead cell
   Rule rule = Rule::only;
-  Unit unit{};  ///< where the pattern lies or, of several lines, the first; unset for patterns of
-                ///< cells
+  /// Where the pattern lies, or the first of its lines; unset where it is made of cells alone.
+  Unit unit{};
   Unit other_unit{};
   NineSet digits{};                         ///< of the pattern
   std::array<CellSet, role_count> cells{};  ///< by role

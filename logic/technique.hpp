@@ -39,6 +39,13 @@ enum class Ending {
   show_and_recompute,  ///< the marked step is displayed, then the candidates are recomputed
 };
 
+/// What a technique does to `SuggestionTrouvee`.
+enum class SuggestionFlag {
+  kept,
+  raised,              ///< when it fires
+  lowered_and_raised,  ///< lowered when it is asked, raised when it fires
+};
+
 /// One row of the tables in techniques.hpp.
 struct Technique {
   int place;              ///< in the order; 0 for a single
@@ -47,8 +54,8 @@ struct Technique {
   Finder find;
   RuleSet rules = {Rule::only};  ///< those that its deductions may name
   Ending ending = Ending::none;
-  bool reads_links = false;       ///< the links are to be built before it is asked
-  bool notes_suggestion = false;  ///< applying it sets `SuggestionTrouvee`
+  bool reads_links = false;  ///< the links are to be built before it is asked
+  SuggestionFlag flag = SuggestionFlag::kept;
 };
 
 }  // namespace sdk

@@ -94,11 +94,20 @@ void end_exhausted() {
   window.set_focus(Control::MSF);
 }
 
+/// Does what the techniques do that the run asked up to the event.
+void lower_flags(const Event& event) {
+  for (const Technique& technique : techniques) {
+    lower_flag(technique);
+    if (&technique == event.deduction.technique) return;
+  }
+}
+
 /// What the event means to the marks, the tables and the player.
 void act_on(const Event& event) {
   switch (event.kind) {
     case EventKind::removal:
       show_round();
+      lower_flags(event);
       return perform(event.deduction);
     case EventKind::offer:
       show_round();
@@ -109,6 +118,7 @@ void act_on(const Event& event) {
       case_morte();
       return;
     case EventKind::exhausted:
+      lower_flags(event);
       return end_exhausted();
   }
 }

@@ -28,14 +28,19 @@ void show_and_apply(const Deduction& deduction) {
 void perform_as(const Technique& technique, const Deduction& deduction) {
   show_and_apply(deduction);
   end_by(technique.ending);
-  if (technique.notes_suggestion) solver.SuggestionTrouvee = true;
+  if (technique.flag != SuggestionFlag::kept) solver.SuggestionTrouvee = true;
 }
 
 }  // namespace
 
 void perform(const Deduction& deduction) { perform_as(*deduction.technique, deduction); }
 
+void lower_flag(const Technique& technique) {
+  if (technique.flag == SuggestionFlag::lowered_and_raised) solver.SuggestionTrouvee = false;
+}
+
 Bool16 find_and_perform(const Technique& technique) {
+  lower_flag(technique);
   const auto found = find_by(technique, solver.position);
   if (found) perform(*found);
   return found.has_value();

@@ -17,7 +17,10 @@ namespace sdk {
 /// `ModePasAPas` is true, takes its candidates away, and ends as its technique does.
 void perform(const Deduction& deduction);
 
-/// Finds the technique's first pattern and performs it.
+/// What `SuggestionTrouvee` becomes when the technique is asked, whether or not it finds anything.
+void lower_flag(const Technique& technique);
+
+/// Asks the technique, and performs what it finds.
 Bool16 find_and_perform(const Technique& technique);
 
 Bool16 rectangles_uniques();

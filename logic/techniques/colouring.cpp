@@ -42,7 +42,7 @@ CellSet chain_seen_from(int cell, const Position& position, const ColourTable& c
                        colours.cells(-1) & peers_of(cell), digit);
 }
 
-bool see_each_other(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
+bool sees_one_of(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
 
 }  // namespace
 
@@ -51,7 +51,7 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
   Draft draft = begin_draft(position, colours, digit, Rule::trap);
   CellSet used;
   for (const int cell : position.candidates.cells_with(digit) - colours.coloured())
-    if (see_each_other(cell, colours.cells(1)) && see_each_other(cell, colours.cells(-1))) {
+    if (sees_one_of(cell, colours.cells(1)) && sees_one_of(cell, colours.cells(-1))) {
       draft.eliminate_shown(cell_at(cell), {digit});
       used |= chain_seen_from(cell, position, colours, digit);
     }
@@ -82,7 +82,7 @@ Deduction deduce_wrap(const Position& position, const ColourTable& colours, int 
 std::optional<Deduction> find_wrap(const Position& position, const ColourTable& colours,
                                    int digit) {
   for (const int cell : colours.coloured())
-    if (see_each_other(cell, colours.cells(colours(cell))))
+    if (sees_one_of(cell, colours.cells(colours(cell))))
       return deduce_wrap(position, colours, cell, digit);
   return std::nullopt;
 }

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "puzzles/stock/entry_text.hpp"
+#include "tests/logic/candidates.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace sdk::test {
@@ -24,7 +25,7 @@ using Cells = std::vector<std::pair<Cell, NineSet>>;
 /// Candidates drawn by hand, on which a technique is called as the driver calls it.
 class Explanations : public testing::Test {
  protected:
-  Explanations() { position.candidates.reset(); }
+  Explanations() { position.candidates = open_cube(); }
 
   /// These cells have these candidates, all others none.
   void hold(const Cells& cells) {

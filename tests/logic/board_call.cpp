@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "logic/techniques.hpp"
+#include "tests/logic/candidates.hpp"
 
 namespace sdk::test {
 
@@ -18,11 +19,11 @@ const DrawnCell& at(const Cells& cells, Cell cell) { return cells(cell.row, cell
 
 CandidateCube cube_of(const Cells& cells) {
   CandidateCube cube;
-  cube.reset();
+  cube = open_cube();
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
     const DrawnCell& drawn = at(cells, cell);
-    if (drawn.value != 0) cube.fill(cell, drawn.value);
+    if (drawn.value != 0) fill(cube, cell, drawn.value);
     for (const int digit : NineSet::all() - drawn.digits) cube.remove(cell, digit);
     cube.set_count(cell, drawn.count);
   }

@@ -4,6 +4,8 @@
 #include "tests/logic/board_file.hpp"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -210,6 +212,20 @@ BoardFile parse_boards(std::string_view text, const std::string& file_name) {
   } catch (const Malformed& fault) {
     throw Malformed(file_name + ":" + std::to_string(reader.last_taken()) + ": " + fault.what());
   }
+}
+
+BoardFile read_boards(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw Malformed(file.string() + " cannot be read");
+  const std::string text{std::istreambuf_iterator<char>(stream), {}};
+  return parse_boards(text, file.filename().string());
+}
+
+std::vector<BoardFile> read_all_boards(const std::filesystem::path& folder) {
+  std::vector<BoardFile> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    if (entry.path().extension() == ".txt") files.push_back(read_boards(entry.path()));
+  return files;
 }
 
 }  // namespace sdk::test

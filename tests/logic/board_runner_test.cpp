@@ -12,7 +12,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <vector>
 
 #include "logic/techniques.hpp"
@@ -254,21 +253,8 @@ TEST(RunBoards, ADifferenceAndAMalformedFileFailTheRun) {
   EXPECT_EQ(exit_status("/no/such/file"), 2);
 }
 
-std::string content(const std::filesystem::path& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-std::vector<BoardFile> all_files() {
-  std::vector<BoardFile> files;
-  for (const auto& entry : std::filesystem::directory_iterator(BOARDS))
-    if (entry.path().extension() == ".txt")
-      files.push_back(parse_boards(content(entry.path()), entry.path().filename().string()));
-  return files;
-}
-
 TEST(Boards, EveryTechniqueHasThreeThatFireAndTwoNearMisses) {
-  const std::vector<BoardFile> files = all_files();
+  const std::vector<BoardFile> files = read_all_boards(BOARDS);
   for (const Technique& technique : techniques) {
     const auto file = std::ranges::find(files, &technique, &BoardFile::technique);
     ASSERT_NE(file, files.end()) << technique.name;

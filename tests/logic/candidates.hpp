@@ -4,9 +4,18 @@
 /// Hands on a cube of candidates. Rows, columns, digits and places are 1..9.
 #pragma once
 
-#include "logic/candidate_cube.hpp"
+#include "logic/position.hpp"
 
 namespace sdk::test {
+
+/// Every cell is empty, has all nine candidates and the count 9.
+inline CandidateCube open_cube() { return open_position({}).candidates; }
+
+/// The cell holds the value, no candidate, and the count 0.
+inline void fill(CandidateCube& cube, Cell cell, int value) {
+  cube.clear(cell);
+  cube.set_value(cell, value);
+}
 
 /// The cell has exactly these candidates, and they are counted.
 inline void set_candidates(CandidateCube& cube, Cell cell, NineSet digits) {

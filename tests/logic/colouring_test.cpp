@@ -4,6 +4,7 @@
 // The colours along strong links, and the two rules. What the technique does is drawn in boards/.
 
 #include "logic/techniques/colouring.hpp"
+#include "tests/logic/candidates.hpp"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ constexpr int digit = 5;
 class Colours : public testing::Test {
  protected:
   void keep_in(const std::vector<Cell>& cells) {
-    position.candidates.reset();
+    position.candidates = open_cube();
     CellSet kept;
     for (const Cell cell : cells) kept.insert(cell);
     for (const int cell : all_cells - kept) position.candidates.remove(cell_at(cell), digit);
@@ -75,7 +76,7 @@ TEST_F(Colours, TheWrapTakesTheDigitFromTheColourThatSeesItself) {
 
 TEST_F(Colours, EveryEmptyCellIsMarkedByItsColour) {
   keep_in({{1, 1}, {1, 3}});
-  position.candidates.fill({9, 9}, 4);
+  fill(position.candidates, {9, 9}, 4);
   colours.paint(Cell{1, 1}.number(), 1);
   colours.paint(Cell{1, 3}.number(), -1);
   const std::vector<Highlight> marks = colour_marks(position, colours);

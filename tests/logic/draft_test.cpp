@@ -18,7 +18,7 @@ class Drafts : public testing::Test {
 
   static Position three_candidates() {
     Position start;
-    start.candidates.reset();
+    start.candidates = open_cube();
     set_candidates(start.candidates, {1, 1}, {3, 5, 8});
     return start;
   }

@@ -12,6 +12,7 @@
 #include "board/grid_text.hpp"
 #include "logic/position.hpp"
 #include "puzzles/stock/entry_text.hpp"
+#include "tests/logic/candidates.hpp"
 
 namespace sdk::test {
 namespace {
@@ -21,7 +22,7 @@ constexpr int digit = 5;
 /// An empty grid on which 5 is a candidate of a few cells only, and every other digit of all.
 class LinkTables : public testing::Test {
  protected:
-  LinkTables() { candidates.reset(); }
+  LinkTables() { candidates = open_cube(); }
 
   void keep_in(const std::vector<Cell>& cells) {
     CellSet kept;

@@ -23,7 +23,7 @@ constexpr Unit box(int n) { return {UnitKind::box, n}; }
 /// Every cell has every candidate.
 class Positions : public testing::Test {
  protected:
-  Positions() { candidates.reset(); }
+  Positions() { candidates = open_cube(); }
 
   Position position;
   CandidateCube& candidates = position.candidates;
@@ -95,7 +95,7 @@ TEST_F(Positions, AFilledCellThatStillHasCandidatesLosesThemAll) {
 }
 
 TEST_F(Positions, AValueExcludesItsDigitFromTheCellsThatSeeIt) {
-  candidates.fill({4, 4}, 5);
+  fill(candidates, {4, 4}, 5);
   recompute(position);
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
@@ -108,7 +108,7 @@ TEST_F(Positions, AValueExcludesItsDigitFromTheCellsThatSeeIt) {
 }
 
 TEST_F(Positions, ACellThatOnceCounted0IsNeverVisitedAgain) {
-  candidates.fill({4, 4}, 5);
+  fill(candidates, {4, 4}, 5);
   candidates.set_count({4, 5}, 0);
   recompute(position);
   EXPECT_TRUE(candidates.has({4, 5}, 5));
@@ -191,10 +191,10 @@ TEST_F(Positions, TheCheckFindsWhatIsWrong) {
   EXPECT_EQ(position_fault(position), "");
   candidates.set_count({1, 2}, 8);
   EXPECT_EQ(position_fault(position), "r1c2 has a count other than its number of flags");
-  candidates.reset();
+  candidates = open_cube();
   candidates.set_value({1, 2}, 8);
   EXPECT_EQ(position_fault(position), "r1c1 has the candidate 8 and sees that value");
-  candidates.reset();
+  candidates = open_cube();
   candidates.set_value({1, 1}, 8);
   EXPECT_EQ(position_fault(position), "r1c1 is filled and has candidates");
 }

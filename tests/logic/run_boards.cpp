@@ -6,9 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 
 #include "tests/logic/board_call.hpp"
@@ -16,12 +14,6 @@
 namespace sdk::test {
 
 namespace {
-
-std::string content(const std::filesystem::path& path) {
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw Malformed(path.string() + " cannot be read");
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 class BoardTest : public testing::Test {
  public:
@@ -39,8 +31,7 @@ class BoardTest : public testing::Test {
 };
 
 void register_cases(const std::filesystem::path& path) {
-  const auto file =
-      std::make_shared<const BoardFile>(parse_boards(content(path), path.filename().string()));
+  const auto file = std::make_shared<const BoardFile>(read_boards(path));
   for (const BoardCase& board : file->cases)
     testing::RegisterTest(
         ("Boards/" + std::string(file->technique->id)).c_str(), board.name.c_str(), nullptr,

@@ -18,7 +18,7 @@ constexpr Unit box(int n) { return {UnitKind::box, n}; }
 /// Every cell has every candidate, but for what a test takes away.
 class SingleFinders : public testing::Test {
  protected:
-  SingleFinders() { candidates.reset(); }
+  SingleFinders() { candidates = open_cube(); }
 
   std::optional<Placement> naked() const { return placement(find_naked_single(position)); }
   std::optional<Placement> hidden() const { return placement(find_hidden_single(position)); }
@@ -46,7 +46,7 @@ TEST_F(SingleFinders, TheFirstNakedSingleRowByRowIsTaken) {
 
 TEST_F(SingleFinders, ACellOfTwoOrNoCandidatesIsNoNakedSingle) {
   set_candidates(candidates, {1, 1}, {3, 8});
-  candidates.fill({1, 2}, 4);  // counts 0
+  fill(candidates, {1, 2}, 4);  // counts 0
   EXPECT_EQ(naked(), std::nullopt);
 }
 

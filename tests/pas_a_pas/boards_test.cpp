@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <sstream>
 
 #include "pas_a_pas/techniques.hpp"
@@ -15,14 +14,6 @@
 
 namespace sdk::test {
 namespace {
-
-std::vector<BoardFile> all_files() {
-  std::vector<BoardFile> files;
-  for (const auto& entry : std::filesystem::directory_iterator(BOARDS))
-    if (entry.path().extension() == ".txt")
-      files.push_back(parse_boards(bytes_of(entry.path()), entry.path().filename().string()));
-  return files;
-}
 
 /// The tables, both grids and the marks become those of the board.
 void set_up(HintGame& game, const BoardFile& file, const BoardCase& board) {
@@ -67,7 +58,7 @@ std::string call_differences(HintGame& game, const BoardFile& file, const BoardC
 TEST(BoardsInTheGame, AreRemovedAndMarkedAsDrawnAndMarkedInAHintOnly) {
   HintGame game;
   int calls = 0;
-  for (const BoardFile& file : all_files())
+  for (const BoardFile& file : read_all_boards(BOARDS))
     for (const BoardCase& board : file.cases)
       for (const bool in_steps : {true, false}) {
         EXPECT_EQ(call_differences(game, file, board, in_steps), "")

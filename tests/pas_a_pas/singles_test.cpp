@@ -26,7 +26,7 @@ class Singles : public testing::Test {
   /// Every cell has every candidate, and the next search is part of a hint.
   void open_cube() {
     globals.ModePasAPas = true;
-    Candidats.reset();
+    Candidats = test::open_cube();
   }
   const Lines& offers() const { return game.events; }
 
@@ -68,7 +68,7 @@ TEST_F(Singles, ANakedSingleIsOfferedByItsCountAndItsLowestFlag) {
 TEST_F(Singles, NoNakedSingleAsksNothing) {
   open_cube();
   set_candidates({1, 1}, {3, 8});
-  Candidats.fill({1, 2}, 4);  // counts 0
+  fill(Candidats, {1, 2}, 4);  // counts 0
   const CandidateCube before = Candidats;
   EXPECT_FALSE(singleton_nu());
   EXPECT_EQ(Candidats, before);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "board/grid_text.hpp"
+#include "pas_a_pas/driver.hpp"
 #include "pas_a_pas/view.hpp"
 #include "tests/pas_a_pas/hint_game.hpp"
 
@@ -80,7 +81,7 @@ TEST_F(Procedures, ReturnFalseAndChangeNothingWhereThereIsNothing) {
 }
 
 TEST_F(Procedures, TheAvoidableRectangleReadsThePairs) {
-  Candidats.reset();
+  Candidats = open_cube();
   const auto solve = [](Cell cell, int value) {
     Candidats.set_value(cell, value);
     Paires(cell.row, cell.column) = {3, 8};
@@ -92,11 +93,52 @@ TEST_F(Procedures, TheAvoidableRectangleReadsThePairs) {
   EXPECT_FALSE(Candidats.has({5, 8}, 3));
 }
 
+// The flag
+
+const char* const naked_triple_grid =
+    "139657248...984361684321579875492613493716852216538794....69..5....73..6.6.845..7";
+const char* const finned_wing_grid =
+    "854..927...9..5148.1.4.859.98256431716..924854.58..629796243851541986732328.5.964";
+
+TEST_F(Procedures, ATripleRaisesTheFlagWhenItFiresAndElseKeepsIt) {
+  solver.position = position_for({"naked_triple", nullptr, naked_triple_grid});
+  ASSERT_FALSE(solver.SuggestionTrouvee);
+  EXPECT_TRUE(find_and_perform(technique_named("naked_triple")));
+  EXPECT_TRUE(solver.SuggestionTrouvee);
+  solver.position = open_position({});
+  EXPECT_FALSE(find_and_perform(technique_named("naked_triple")));
+  EXPECT_TRUE(solver.SuggestionTrouvee);
+}
+
+TEST_F(Procedures, AQuadThatIsAskedLowersTheFlag) {
+  for (const Technique* quad : {&technique_named("naked_quad"), &technique_named("hidden_quad")}) {
+    solver.position = open_position({});
+    solver.SuggestionTrouvee = true;
+    EXPECT_FALSE(find_and_perform(*quad));
+    EXPECT_FALSE(solver.SuggestionTrouvee) << quad->name;
+  }
+}
+
+/// The flag after a run that redraws nothing, if it was up before.
+bool flag_after_run(HintGame& game, std::string_view grid) {
+  game.draw(grid);
+  globals.ModePasAPas = false;
+  solver.SuggestionTrouvee = true;
+  suggestion();
+  return solver.SuggestionTrouvee;
+}
+
+TEST_F(Procedures, ARunLowersTheFlagWhenItComesToTheQuads) {
+  EXPECT_FALSE(flag_after_run(game, finned_wing_grid));
+  const std::string one_to_go = "." + joined(complete_grid).substr(1);
+  EXPECT_TRUE(flag_after_run(game, one_to_go));
+}
+
 // What finishes a pattern
 
 /// A 5 stands nowhere but on these lines of that kind.
 void keep_five_on(UnitKind kind, NineSet lines, NineSet places) {
-  Candidats.reset();
+  Candidats = open_cube();
   for (const int line : lines) keep_places({kind, line}, 5, places);
 }
 
@@ -157,7 +199,7 @@ const char* const no_colour = "1: | -1:";
 class ColourProcedures : public Procedures {
  protected:
   void keep_in(const std::vector<Cell>& cells) {
-    Candidats.reset();
+    Candidats = open_cube();
     CellSet kept;
     for (const Cell cell : cells) kept.insert(cell);
     for (const int cell : sdk::all_cells - kept) Candidats.remove(cell_at(cell), 5);

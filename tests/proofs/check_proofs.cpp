@@ -3,9 +3,8 @@
 
 // Judges walks in JSON:
 //   check_proofs < LINES            those of standard input
-//   check_proofs SUDOKU-WALK SEED   those that the tool prints for made-up puzzles of every kind,
-//   six
-//                                   for each of PROOF_GRIDS grids (10 without)
+//   check_proofs SUDOKU-WALK SEED   those that the tool prints for made-up puzzles of every kind
+// PROOF_GRIDS in the environment says from how many grids these are made (10 without), six a grid.
 // Prints each fault and a table; the exit status is 1 when there is a fault.
 
 #include <unistd.h>
