@@ -214,4 +214,10 @@ std::string explain(const Event& event, std::string_view language) {
   return Teller(event.deduction, language).tell(text_of(event));
 }
 
+std::vector<std::string> explain(const std::deque<Event>& hint, std::string_view language) {
+  std::vector<std::string> texts;
+  for (const Event& event : hint) texts.push_back(explain(event, language));
+  return texts;
+}
+
 }  // namespace sdk

@@ -5,8 +5,10 @@
 /// the game's own messages and are independent of them.
 #pragma once
 
+#include <deque>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "logic/run.hpp"
 
@@ -19,5 +21,8 @@ std::string explain(const Deduction& deduction, std::string_view language);
 
 /// The same about an event of a run, its end included.
 std::string explain(const Event& event, std::string_view language);
+
+/// The same about all events of one run, a text each in their order.
+std::vector<std::string> explain(const std::deque<Event>& hint, std::string_view language);
 
 }  // namespace sdk

@@ -83,6 +83,10 @@ class Window {
   virtual void trace_ligne() = 0;
   /// Recomputes and shows the candidates.
   virtual void MajCandidats() = 0;
+  /// Tells the steps of the hint, which has come to its question or its end.
+  virtual void tell_hint() = 0;
+  /// Shows no step of the hint alone any more.
+  virtual void leave_step() = 0;
   /// Repaints the whole window.
   virtual void refresh() = 0;
   /// Gives the keyboard focus to a control.

@@ -74,6 +74,7 @@ void enter_round(const Event& event) {
 void end_completed() {
   grille_finie();
   Window& window = sudoku();
+  window.tell_hint();
   window.show_message(Message::completed, Icon::exclamation);
   window.MSF.refresh();
   window.trace_ligne();
@@ -89,6 +90,7 @@ void end_exhausted() {
   window.trace_ligne();
   window.set_focus(Control::MSF);
   window.Lire_Grille_Initiale(0, 0);
+  window.tell_hint();
   window.show_message(Message::no_suggestion, Icon::exclamation);
   window.trace_ligne();
   window.set_focus(Control::MSF);
@@ -116,7 +118,7 @@ void act_on(const Event& event) {
       return end_completed();
     case EventKind::dead:
       case_morte();
-      return;
+      return sudoku().tell_hint();
     case EventKind::exhausted:
       lower_flags(event);
       return end_exhausted();

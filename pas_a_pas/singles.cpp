@@ -34,8 +34,10 @@ void offer(Placement placement, Message message) {
   sudoku().trace_ligne();
   const std::string question = text_of(message) + std::to_string(cell.row) + " C" +
                                std::to_string(cell.column) + " " + std::to_string(digit);
+  sudoku().tell_hint();
   const Answer answer =
       sudoku().desktop().message_box(question, Icon::none, Buttons::yes_no, globals.TitreFenetre);
+  sudoku().leave_step();
   if (answer == Answer::yes) accept(placement);
 }
 

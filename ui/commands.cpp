@@ -70,6 +70,7 @@ void MainWindow::take_level_colour() {
 }
 
 void MainWindow::new_puzzle() {
+  forget_hint();
   set_visible(Control::Command8, true);
   {
     HiddenWhileWorking hidden(MSF);
@@ -147,6 +148,7 @@ void MainWindow::export_entry() { run_guarded(generate_sudoku); }
 void MainWindow::load() {
   const std::string name = desktop().open_dialog(file_filter);
   if (name.empty()) return;
+  forget_hint();
   set_title(globals.TitreFenetre);
   desktop().set_pointer(Pointer::hourglass);
   set_visible(Control::Command8, true);

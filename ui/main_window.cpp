@@ -72,6 +72,23 @@ void MainWindow::inactive() {
     set_visible(id, false);
 }
 
+void MainWindow::tell_hint() {
+  explanation_.tell(MSF);
+  if (listener_) listener_->explanation_changed();
+}
+
+void MainWindow::leave_step() { choose_step(std::nullopt); }
+
+void MainWindow::choose_step(std::optional<std::size_t> step) {
+  explanation_.choose(step);
+  if (listener_) listener_->explanation_changed();
+}
+
+void MainWindow::forget_hint() {
+  explanation_.clear();
+  if (listener_) listener_->explanation_changed();
+}
+
 void MainWindow::refresh() {
   if (listener_) listener_->refresh();
 }

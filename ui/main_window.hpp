@@ -15,6 +15,7 @@
 #include "screen/drawing.hpp"
 #include "screen/errors.hpp"
 #include "ui/about.hpp"
+#include "ui/explanation.hpp"
 #include "ui/layout.hpp"
 
 namespace sdk {
@@ -57,6 +58,9 @@ class WindowListener {
   virtual void focus_changed() = 0;
   /// The about box was opened or closed.
   virtual void about_changed() = 0;
+  /// The steps of the hint, or which of them is chosen, changed; their language changes with the
+  /// controls.
+  virtual void explanation_changed() = 0;
   /// What changed is to be on screen when the call returns.
   virtual void refresh() = 0;
 };
@@ -95,6 +99,8 @@ class MainWindow final : public Window {
   /// A key or a mouse button pressed in the about box, or its own close command; nothing happens
   /// while it is not shown.
   void close_about();
+  /// Shows one step of the last hint alone, 0 the first; none shows all again.
+  void choose_step(std::optional<std::size_t> step);
   /// Asks the player whether the window may close; at the end of the session it may, unasked.
   bool confirm_close(CloseMode mode);
 
@@ -109,6 +115,8 @@ class MainWindow final : public Window {
   Control focus() const { return focus_; }
   const Layout& layout() const { return layout_; }
   const About& about() const { return about_; }
+  /// The steps of the last hint, and the one that is shown alone.
+  const Explanation& explanation() const { return explanation_; }
   /// What trace_ligne drew last.
   const std::vector<LineDrawing>& lines() const { return lines_; }
 
@@ -121,6 +129,8 @@ class MainWindow final : public Window {
   void active() override;
   void trace_ligne() override;
   void MajCandidats() override;
+  void tell_hint() override;
+  void leave_step() override;
   void refresh() override;
   void set_focus(Control control) override;
   void set_visible(Control control, bool visible) override;
@@ -130,6 +140,7 @@ class MainWindow final : public Window {
  private:
   static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
 
+  void forget_hint();
   void run_guarded(const std::function<void()>& handler);
   [[noreturn]] void end_fatally(const RuntimeError& error);
 
@@ -168,6 +179,7 @@ class MainWindow final : public Window {
   Layout layout_ = sdk::layout(false);
   std::vector<LineDrawing> lines_;
   About about_;
+  Explanation explanation_;
   bool opened_at_start_ = false;
   WindowListener* listener_ = nullptr;
 };

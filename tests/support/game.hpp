@@ -96,6 +96,7 @@ class Game : private WindowListener {
   void lines_drawn() override { repaints.push_back("lines"); }
   void focus_changed() override {}
   void about_changed() override { repaints.push_back("about"); }
+  void explanation_changed() override {}
   void refresh() override { repaints.push_back("refresh window"); }
 };
 

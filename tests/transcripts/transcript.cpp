@@ -37,9 +37,9 @@ void check(const Lines& transcript) {
 }
 
 /// One run of the program in folders of its own.
-class Run {
+class ScriptRun {
  public:
-  Run() : script_(out_, errors_) {
+  ScriptRun() : script_(out_, errors_) {
     script_.run("program " + scratch_.program().string());
     script_.run("tmp " + scratch_.tmp().string());
   }
@@ -79,7 +79,7 @@ Lines lines_of(const std::string& text) {
 
 Lines replay(const Lines& transcript) {
   check(transcript);
-  Run run;
+  ScriptRun run;
   Lines result;
   for (const std::string& line : transcript) {
     if (is_output(line)) continue;

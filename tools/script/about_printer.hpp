@@ -26,6 +26,7 @@ class AboutPrinter final : public WindowListener {
   void lines_drawn() override {}
   void focus_changed() override {}
   void about_changed() override;
+  void explanation_changed() override {}
   void refresh() override {}
 
   std::ostream& out_;

@@ -129,6 +129,8 @@ void MainFrame::about_changed() {
   if (window_.about().shown()) open_about();
 }
 
+void MainFrame::explanation_changed() { update_.ask(); }
+
 void MainFrame::close_about() {
   if (!about_) return;
   about_->hide();

@@ -44,6 +44,7 @@ class MainFrame : public QWidget, private WindowListener {
   void lines_drawn() override;
   void focus_changed() override;
   void about_changed() override;
+  void explanation_changed() override;
   void refresh() override;
 
   void connect_bars();

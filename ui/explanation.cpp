@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+#include "ui/explanation.hpp"
+
+#include "explanations/explanations.hpp"
+#include "pas_a_pas/tables.hpp"
+#include "screen/display_grid.hpp"
+
+namespace sdk {
+
+namespace {
+
+std::vector<std::string> texts_of(const DisplayGrid& grid) {
+  std::vector<std::string> texts;
+  for (const DisplayCell& cell : grid.cells()) texts.push_back(cell.text);
+  return texts;
+}
+
+}  // namespace
+
+void Explanation::tell(const DisplayGrid& grid) {
+  puzzle_ = texts_of(grid);
+  chosen_.reset();
+}
+
+void Explanation::clear() {
+  puzzle_.clear();
+  chosen_.reset();
+}
+
+bool Explanation::is_outdated(const DisplayGrid& grid) const {
+  return !puzzle_.empty() && puzzle_ != texts_of(grid);
+}
+
+std::vector<std::string> Explanation::texts(std::string_view language) const {
+  if (puzzle_.empty()) return {};
+  return explain(solver.hint->events(), language);
+}
+
+std::size_t Explanation::size() const { return puzzle_.empty() ? 0 : solver.hint->events().size(); }
+
+void Explanation::choose(std::optional<std::size_t> step) {
+  chosen_ = step && *step < size() ? step : std::nullopt;
+}
+
+std::optional<StepPicture> Explanation::picture() const {
+  if (!chosen_) return std::nullopt;
+  return picture_of(solver.hint->events()[*chosen_]);
+}
+
+}  // namespace sdk
