@@ -31,10 +31,16 @@ enum class Notice {
   reduced,          ///< accessible state of a cell of `MSR`: a hint removed candidates
   pattern,          ///< accessible state of a cell of `MSR`: why a hint is right
   second_pattern,   ///< the same, of a cell marked apart from the others
+  dead,             ///< accessible state of an empty cell of `MSR` without candidates
+  loses,            ///< accessible state of a cell of a step: %1 the candidates that it loses
+  bold,             ///< the same: %1 those of its candidates that the step rests on
   row,              ///< accessible name of a row: %1 the row, 1-based
   column,           ///< accessible name of a column: %1 the column, 1-based
   commands,         ///< accessible name of the buttons as a whole
   options,          ///< accessible name of the options as a whole
+  explanation,      ///< accessible name of the steps of a hint
+  previous_step,    ///< accessible name and tooltip of the button that goes back a step
+  next_step,        ///< the same, of the button that goes on to the next one
   author,           ///< who made the game
   rights,           ///< notice of rights: %1 the year
 };

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "explanations/step_picture.hpp"
 #include "screen/display_grid.hpp"
 
 namespace sdk {
@@ -15,5 +16,10 @@ namespace sdk {
 /// candidates of a cell of `MSR` are told as digits with blanks between them. Row and column are
 /// 0..8; UTF-8; French for exactly "Fr", English for anything else.
 std::string spoken_cell(const DisplayGrid& grid, int row, int column, std::string_view language);
+
+/// The same of a cell of a step that is shown alone, with the digits that are struck out and, where
+/// not all of its candidates are, those in bold: "row 1, column 2: 3 5 8, loses 3, supports the
+/// hint, bold 5".
+std::string spoken_cell(const PictureCell& cell, int row, int column, std::string_view language);
 
 }  // namespace sdk

@@ -73,11 +73,16 @@ TEST_F(SpokenCell, TellsCandidatesAsDigits) {
 
 TEST_F(SpokenCell, TellsWhatAHintMarked) {
   EXPECT_EQ(spoken(candidates, colour::black, 0xFF00FF, Mark::removed),
-            "row 5, column 5: 1 5 9, reduced");
+            "row 5, column 5: 1 5 9, loses a candidate");
   EXPECT_EQ(spoken(candidates, colour::green, 0xC0FFC0, Mark::support),
-            "row 5, column 5: 1 5 9, pattern");
+            "row 5, column 5: 1 5 9, supports the hint");
   EXPECT_EQ(spoken(candidates, colour::black, 0x00FFFF, Mark::second),
-            "row 5, column 5: 1 5 9, second pattern");
+            "row 5, column 5: 1 5 9, second role");
+}
+
+TEST_F(SpokenCell, TellsThatNoDigitIsLeft) {
+  EXPECT_EQ(spoken(" .  . \r . ", colour::black, 0xFF00FF, Mark::removed),
+            "row 5, column 5: empty, no digit is left");
 }
 
 TEST_F(SpokenCell, TellsAPlacedValueFromAnOnlyCandidate) {
@@ -88,6 +93,39 @@ TEST_F(SpokenCell, TellsAPlacedValueFromAnOnlyCandidate) {
 TEST_F(SpokenCell, SpeaksFrench) {
   spoken("7", colour::red, yellow);
   EXPECT_EQ(spoken_cell(grid, 4, 4, "Fr"), "ligne 5, colonne 5: 7, faux, donné");
+}
+
+/// The cell in the middle of a step's drawing.
+std::string spoken(const PictureCell& cell, std::string_view language = "En") {
+  return spoken_cell(cell, 4, 4, language);
+}
+
+TEST(SpokenStep, TellsValuesAndCandidates) {
+  EXPECT_EQ(spoken({.value = 7}), "row 5, column 5: 7");
+  EXPECT_EQ(spoken({.candidates = {3, 8}}), "row 5, column 5: 3 8");
+  EXPECT_EQ(spoken({}), "row 5, column 5: empty");
+}
+
+TEST(SpokenStep, TellsWhatTheCellLosesAndDoes) {
+  const PictureCell cell{.candidates = {3, 8}, .mark = Mark::support, .removed = {3}};
+  EXPECT_EQ(spoken_cell(cell, 0, 1, "En"), "row 1, column 2: 3 8, loses 3, supports the hint");
+  EXPECT_EQ(spoken_cell(cell, 0, 1, "Fr"), "ligne 1, colonne 2: 3 8, perd 3, appui");
+}
+
+TEST(SpokenStep, TellsALossOnce) {
+  EXPECT_EQ(spoken({.candidates = {1, 3, 8}, .mark = Mark::removed, .removed = {1, 8}}),
+            "row 5, column 5: 1 3 8, loses 1 8");
+}
+
+TEST(SpokenStep, TellsBoldDigitsUnlessAllAre) {
+  EXPECT_EQ(spoken({.candidates = {3, 5, 8}, .mark = Mark::second, .pattern = {5}}),
+            "row 5, column 5: 3 5 8, second role, bold 5");
+  EXPECT_EQ(spoken({.candidates = {3, 8}, .mark = Mark::second, .pattern = {3, 8}}, "Fr"),
+            "ligne 5, colonne 5: 3 8, second rôle");
+}
+
+TEST(SpokenStep, TellsADeadCell) {
+  EXPECT_EQ(spoken({.mark = Mark::removed}), "row 5, column 5: empty, no digit is left");
 }
 
 }  // namespace

@@ -189,7 +189,7 @@ class AccessibilityTest : public QObject {
     BoxAnswer no(QMessageBox::No);
     play_->click("Command8");
     QVERIFY(no.was_shown());
-    QCOMPARE(spoken("MSR", 1, 9), "ligne 1, colonne 9: 9, motif");
+    QCOMPARE(spoken("MSR", 1, 9), "ligne 1, colonne 9: 9, appui");
   }
 
   void rows_and_columns_have_names() {
