@@ -129,6 +129,10 @@ void set_size(DisplayGrid& grid, FontSize size) {
 
 }  // namespace
 
+Colour mark_background(Mark mark) {
+  return look_of(static_cast<int>(mark)).value_or(Look{colour::white, {}, {}}).back;
+}
+
 void marque_case(int row, int column, int mode) {
   const std::optional<Look> look = look_of(mode);
   if (!look) return;

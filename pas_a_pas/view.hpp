@@ -30,6 +30,8 @@ void marque_case(int row, int column, int mode);
 inline void marque_case(int row, int column, Mark mark) {
   marque_case(row, column, static_cast<int>(mark));
 }
+/// The background that marque_case gives; white for a mark without a look.
+Colour mark_background(Mark mark);
 /// Does nothing: the place where a single candidate of a cell could be coloured.
 void trace_candidat(int row, int column, int digit, Colour colour);
 

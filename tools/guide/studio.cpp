@@ -20,14 +20,25 @@ QImage picture_of(QWidget& widget) {
   return image;
 }
 
+namespace {
+
+/// The question of a hint is not modal.
+QMessageBox* open_box() {
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* box = qobject_cast<QMessageBox*>(widget); box && box->isVisible()) return box;
+  return nullptr;
+}
+
+}  // namespace
+
 BoxAnswerer::BoxAnswerer() {
   connect(&timer_, &QTimer::timeout, this, &BoxAnswerer::look_for_box);
   timer_.start(1);
 }
 
 void BoxAnswerer::look_for_box() {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (!box || !box->isVisible()) return;
+  QMessageBox* box = open_box();
+  if (!box) return;
   QAbstractButton* button = box->button(answer ? answer(*box) : QMessageBox::No);
   (button ? button : box->button(QMessageBox::Ok))->click();
 }

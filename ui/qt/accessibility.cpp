@@ -22,9 +22,9 @@ struct WidgetRole {
 
 /// A plain frame is decoration, which screen readers pass over; Qt would have it a window.
 constexpr WidgetRole widget_roles[] = {
-    {"sdk::MainFrame", QAccessible::Window},   {"sdk::CommandBar", QAccessible::ToolBar},
-    {"sdk::OptionBar", QAccessible::Grouping}, {"sdk::PictureLabel", QAccessible::Graphic},
-    {"QFrame", QAccessible::Client},
+    {"sdk::MainFrame", QAccessible::Window},     {"sdk::CommandBar", QAccessible::ToolBar},
+    {"sdk::OptionBar", QAccessible::Grouping},   {"sdk::ExplanationPanel", QAccessible::Grouping},
+    {"sdk::PictureLabel", QAccessible::Graphic}, {"QFrame", QAccessible::Client},
 };
 
 /// A link that a screen reader can follow although no key reaches it.

@@ -7,6 +7,7 @@
 #include <QStyleOptionViewItem>
 
 #include "ui/qt/cell_painter.hpp"
+#include "ui/qt/step_painter.hpp"
 
 namespace sdk {
 
@@ -28,8 +29,9 @@ void paint_border(QPainter& painter, const QRect& square, const QColor& colour) 
 
 }  // namespace
 
-CellDelegate::CellDelegate(const DisplayGrid& grid, GridLook look, QObject* parent)
-    : QAbstractItemDelegate(parent), grid_(grid), look_(look) {}
+CellDelegate::CellDelegate(const DisplayGrid& grid, const std::optional<StepPicture>& step,
+                           GridLook look, QObject* parent)
+    : QAbstractItemDelegate(parent), grid_(grid), step_(step), look_(look) {}
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
@@ -37,13 +39,20 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const bool focused = option.widget && option.widget->hasFocus();
   const bool marked = grid_.marks_current() && (focused || look_.marks_without_focus);
   const bool current = is_current(index);
-  DisplayCell cell = grid_.cell(index.row(), index.column());
-  if (marked && !current && is_selected(index))
-    cell.back_colour = selected_background(cell.back_colour);
-  paint_cell(*painter, option.rect, cell, look_.font_size);
+  paint_content(*painter, option.rect, index, marked && !current && is_selected(index));
   if (marked && current)
     paint_border(*painter, option.rect, focused ? focused_border : unfocused_border);
   painter->restore();
+}
+
+void CellDelegate::paint_content(QPainter& painter, const QRect& square, const QModelIndex& index,
+                                 bool selected) const {
+  const PictureCell* shown = step_ ? &step_->cells(index.row() + 1, index.column() + 1) : nullptr;
+  if (shown && look_.step == StepLook::cells) return paint_step_cell(painter, square, *shown);
+  DisplayCell cell = grid_.cell(index.row(), index.column());
+  if (selected) cell.back_colour = selected_background(cell.back_colour);
+  paint_cell(painter, square, cell, look_.font_size);
+  if (shown) paint_step_frame(painter, square, shown->mark);
 }
 
 bool CellDelegate::is_current(const QModelIndex& index) const {

@@ -20,17 +20,6 @@ constexpr int absent_candidate_alpha = 80;
 constexpr QColor selection_tint(0x1c, 0x6d, 0xd0, 0x38);
 constexpr int large_text_points = 18;
 
-QFont font_of_size(int points) {
-  QFont font = QGuiApplication::font();
-  font.setPixelSize(points * 4 / 3);
-  return font;
-}
-
-void paint_thin_lines(QPainter& painter, const QRect& square) {
-  painter.fillRect(QRect(square.left(), square.bottom(), square.width(), 1), thin_line);
-  painter.fillRect(QRect(square.right(), square.top(), 1, square.height() - 1), thin_line);
-}
-
 /// A candidate, or a pale dot in the middle of its place where there is none.
 void paint_candidate(QPainter& painter, const QRect& place, const QString& entry, QColor colour) {
   constexpr QChar middle_dot(0xB7);
@@ -42,12 +31,10 @@ void paint_candidate(QPainter& painter, const QRect& place, const QString& entry
 
 void paint_candidates(QPainter& painter, const QRect& square, const QStringList& lines,
                       const QColor& colour) {
-  constexpr int margin = 2, entry_side = (cell_side - 2 * margin) / 3, entry_length = 3;
+  constexpr int entry_length = 3;
   for (int line = 0; line < lines.size(); ++line)
     for (int column = 0; column < 3; ++column)
-      paint_candidate(painter,
-                      QRect(square.left() + margin + column * entry_side,
-                            square.top() + margin + line * entry_side, entry_side, entry_side),
+      paint_candidate(painter, candidate_place(square, 3 * line + column + 1),
                       lines[line].mid(column * entry_length, entry_length).trimmed(), colour);
 }
 
@@ -85,6 +72,18 @@ QColor to_qcolor(Colour colour) {
 
 QString to_qstring(const std::string& cell_text) { return QString::fromLatin1(cell_text); }
 
+QFont font_of_size(int points) {
+  QFont font = QGuiApplication::font();
+  font.setPixelSize(points * 4 / 3);
+  return font;
+}
+
+QRect candidate_place(const QRect& square, int digit) {
+  constexpr int margin = 2, side = (cell_side - 2 * margin) / 3;
+  return QRect(square.left() + margin + (digit - 1) % 3 * side,
+               square.top() + margin + (digit - 1) / 3 * side, side, side);
+}
+
 Colour selected_background(Colour back) {
   const auto mixed = [](int channel, int tint) {
     return static_cast<Colour>(channel + (tint - channel) * selection_tint.alpha() / 255);
@@ -100,10 +99,15 @@ QColor drawn_text_colour(const DisplayCell& cell, int grid_font_size) {
                  large ? large_text_contrast : small_text_contrast);
 }
 
+void paint_background(QPainter& painter, const QRect& square, const QColor& back) {
+  painter.fillRect(square, back);
+  painter.fillRect(QRect(square.left(), square.bottom(), square.width(), 1), thin_line);
+  painter.fillRect(QRect(square.right(), square.top(), 1, square.height() - 1), thin_line);
+}
+
 void paint_cell(QPainter& painter, const QRect& square, const DisplayCell& cell,
                 int grid_font_size) {
-  painter.fillRect(square, to_qcolor(cell.back_colour));
-  paint_thin_lines(painter, square);
+  paint_background(painter, square, to_qcolor(cell.back_colour));
   if (cell.text == " ") return;
   painter.setFont(font_of_size(font_size_of(cell, grid_font_size)));
   paint_text(painter, square, cell, drawn_text_colour(cell, grid_font_size));

@@ -10,16 +10,9 @@
 
 namespace sdk {
 
-namespace {
-
-QString spoken(const DisplayGrid& grid, int row, int column) {
-  return QString::fromStdString(spoken_cell(grid, row, column, globals.Langue));
-}
-
-}  // namespace
-
-GridModel::GridModel(const DisplayGrid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid) {}
+GridModel::GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, StepLook look,
+                     QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid), step_(step), look_(look) {}
 
 int GridModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : DisplayGrid::size;
@@ -38,10 +31,17 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
       return to_qcolor(cell.back_colour);
     case Qt::AccessibleTextRole:
-      return spoken(grid_, index.row(), index.column());
+      return spoken(index.row(), index.column());
     default:
       return {};
   }
+}
+
+QString GridModel::spoken(int row, int column) const {
+  const PictureCell* shown = step_ ? &step_->cells(row + 1, column + 1) : nullptr;
+  if (shown && (look_ == StepLook::cells || shown->mark != Mark::none))
+    return QString::fromStdString(spoken_cell(*shown, row, column, globals.Langue));
+  return QString::fromStdString(spoken_cell(grid_, row, column, globals.Langue));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -5,19 +5,24 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <optional>
 
+#include "explanations/step_picture.hpp"
 #include "screen/display_grid.hpp"
+#include "ui/qt/cell_delegate.hpp"
 
 namespace sdk {
 
 class GridModel : public QAbstractTableModel {
  public:
-  /// `grid` must outlive the model.
-  GridModel(const DisplayGrid& grid, QObject* parent);
+  /// `grid` and `step`, the step that is shown, if any, must outlive the model.
+  GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, StepLook look,
+            QObject* parent);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// The text to show, the two colours, and the accessible text of spoken_cell.
+  /// The text to show, the two colours, and the accessible text of spoken_cell; for
+  /// a cell that a step shows or frames, that of the step's cell.
   QVariant data(const QModelIndex& index, int role) const override;
   /// The accessible names of rows and columns; their headers are not on screen.
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -26,7 +31,11 @@ class GridModel : public QAbstractTableModel {
   void announce_change();
 
  private:
+  QString spoken(int row, int column) const;
+
   const DisplayGrid& grid_;
+  const std::optional<StepPicture>& step_;
+  StepLook look_;
 };
 
 }  // namespace sdk

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <optional>
@@ -13,6 +14,7 @@
 
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/key_codes.hpp"
+#include "ui/qt/step_painter.hpp"
 
 namespace sdk {
 
@@ -52,13 +54,14 @@ CellRange bounds_of(const QItemSelection& selection) {
 GridView::GridView(DisplayGrid& grid, GridLook look, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
-      model_(grid, nullptr),
+      step_look_(look.step),
+      model_(grid, step_, look.step, nullptr),
       update_(*this, [this] { follow_grid(); }),
       announcer_(*this),
       tell_focus_(*this, [this] { announcer_.announce_focus(); }) {
   set_up_table();
   setModel(&model_);
-  setItemDelegate(new CellDelegate(grid, look, this));
+  setItemDelegate(new CellDelegate(grid, step_, look, this));
   grid_.set_listener(this);
   update_.ask();
 }
@@ -83,6 +86,20 @@ void GridView::set_accessible_name(const QString& name) {
   setAccessibleName(name);
   cells_changed_ = true;
   update_.ask();
+}
+
+void GridView::show_step(const std::optional<StepPicture>& step) {
+  if (step == step_) return;
+  step_ = step;
+  cells_changed_ = true;
+  update_.ask();
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!step_ || step_look_ != StepLook::cells) return;
+  QPainter painter(viewport());
+  paint_step_links(painter, viewport()->rect(), *step_);
 }
 
 void GridView::cell_changed(int, int) {

@@ -28,6 +28,9 @@ class GridView : public QTableView, private DisplayGridListener {
 
   /// The grid's accessible name; the cells' accessible texts are taken to have changed with it.
   void set_accessible_name(const QString& name);
+  /// Shows a step of a hint as the look tells; none: the grid's cells alone. The grid itself keeps
+  /// what it holds.
+  void show_step(const std::optional<StepPicture>& step);
 
  signals:
   /// A code of key_codes.hpp.
@@ -36,6 +39,7 @@ class GridView : public QTableView, private DisplayGridListener {
   void button_pressed_or_released();
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -64,6 +68,8 @@ class GridView : public QTableView, private DisplayGridListener {
   void set_tab_stop();
 
   DisplayGrid& grid_;
+  StepLook step_look_;
+  std::optional<StepPicture> step_;
   GridModel model_;
   DeferredCall update_;
   CellAnnouncer announcer_;

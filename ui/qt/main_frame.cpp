@@ -20,6 +20,7 @@ namespace sdk {
 namespace {
 
 constexpr int band_margin = 12;
+constexpr int explanation_margin = 8;
 
 QFrame* make_frame(Control control, QWidget* parent) {
   auto* frame = new QFrame(parent);
@@ -43,16 +44,20 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       guard_(guard),
       commands_(new CommandBar(this)),
       rect_(make_frame(Control::rect, this)),
-      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true}, this)),
+      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames}, this)),
       rect2_(make_frame(Control::rect2, this)),
-      msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false}, this)),
+      msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false, StepLook::cells},
+                     this)),
       options_(new OptionBar(this)),
+      explanation_(new ExplanationPanel(this)),
       lines_(new LineOverlay(window, this)),
+      gate_(*this, *explanation_),
       update_(*this, [this] { show_state(); }) {
   install_accessible_roles();
   setObjectName("sudoku");
   commands_->setObjectName("commands");
   options_->setObjectName("options");
+  explanation_->setObjectName("explanation");
   lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
@@ -66,19 +71,28 @@ MainFrame::~MainFrame() { window_.set_listener(nullptr); }
 
 void MainFrame::connect_bars() {
   connect(commands_, &CommandBar::clicked, this,
-          [this](Control button) { guard_.run([&] { window_.click(button); }); });
+          [this](Control button) { act([&] { window_.click(button); }); });
   connect(commands_, &CommandBar::focus_lost, this,
           [this](Control button) { guard_.run([&] { window_.focus_lost(button); }); });
   connect(options_, &OptionBar::ticked, this,
-          [this](Control box, bool on) { guard_.run([&] { window_.check(box, on); }); });
+          [this](Control box, bool on) { act([&] { window_.check(box, on); }); });
   connect(options_, &OptionBar::level_chosen, this,
-          [this](int item) { guard_.run([&] { window_.choose_level(item); }); });
+          [this](int item) { act([&] { window_.choose_level(item); }); });
+  connect(explanation_, &ExplanationPanel::step_chosen, this,
+          [this](std::optional<std::size_t> step) { window_.choose_step(step); });
+}
+
+/// Handles a command of the player. A screen reader gives it without an event that the gate sees;
+/// then the control that it used is set right again.
+void MainFrame::act(const std::function<void()>& handler) {
+  if (gate_.is_asking()) return update_.ask();
+  guard_.run(handler);
 }
 
 void MainFrame::connect_grids() {
   msr_->setFocusPolicy(Qt::TabFocus);
   connect(msf_, &GridView::key_pressed, this,
-          [this](int code, bool ctrl) { guard_.run([&] { window_.key_down(code, ctrl); }); });
+          [this](int code, bool ctrl) { act([&] { window_.key_down(code, ctrl); }); });
   for (const GridView* grid : {msf_, msr_})
     connect(grid, &GridView::button_pressed_or_released, this,
             [this] { guard_.run([&] { window_.redraw_lines(); }); });
@@ -91,6 +105,7 @@ void MainFrame::watch_application() {
 
 /// Sees every event of the program before its receiver does.
 bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
+  if (gate_.stops(watched, event)) return true;
   const bool is_key = event->type() == QEvent::KeyPress;
   if (!is_key && event->type() != QEvent::MouseButtonPress) return false;
   session_ends_ = false;  // the player goes on, so the end of the session was called off
@@ -98,12 +113,25 @@ bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
   if (!is_key || !widget || widget->window() != this) return false;
   const int code = key_code(*static_cast<QKeyEvent*>(event)).code;
   if (code != key::f1 && code != key::f2 && code != key::escape) return false;
-  guard_.run([&] { window_.preview_key(code); });
+  preview(code);
   return true;
+}
+
+void MainFrame::preview(int code) {
+  const bool left = code == key::escape && explanation_->leave_step();
+  if (!gate_.is_asking()) return guard_.run([&] { window_.preview_key(code); });
+  if (code == key::escape && !left) gate_.return_to_box();
+}
+
+int MainFrame::ask_about_hint(QMessageBox& box) {
+  update_.make_now();
+  box.setAccessibleDescription(explanation_->last_sentence());
+  return gate_.ask(box);
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {
   event->ignore();
+  if (gate_.is_asking() && !session_ends_) return;
   const CloseMode mode = session_ends_ ? CloseMode::session_end : CloseMode::window_command;
   guard_.run([&] {
     if (window_.confirm_close(mode)) throw ProgramEnd{0};
@@ -162,7 +190,18 @@ void MainFrame::show_state() {
   // A grid that is hidden without its frame is only being rewritten.
   msf_->setVisible(window_.visible(Control::rect));
   msr_->setVisible(window_.visible(Control::rect2));
+  show_explanation();
   place_widgets();
+}
+
+void MainFrame::show_explanation() {
+  const Explanation& explanation = window_.explanation();
+  const bool beside = window_.visible(Control::rect2);
+  const std::optional<StepPicture> step = explanation.picture();
+  msr_->show_step(beside ? step : std::nullopt);
+  msf_->show_step(beside ? std::nullopt : step);
+  if (explanation.size() == 0 && explanation_->isAncestorOf(focusWidget())) msf_->setFocus();
+  explanation_->show_state(explanation);
 }
 
 void MainFrame::show_grid_names() {
@@ -178,6 +217,9 @@ void MainFrame::place_widgets() {
   commands_->setGeometry(band_margin, band_margin, band_width, msf_frame.top() - 2 * band_margin);
   options_->setGeometry(band_margin, msf_frame.bottom() + 1 + band_margin, band_width,
                         inside.bottom() - msf_frame.bottom() - 2 * band_margin);
+  const QRect below = inside.adjusted(0, msf_frame.bottom() + 1 + explanation_margin, -band_margin,
+                                      -explanation_margin);
+  explanation_->setGeometry(options_->free_room(below, !window_.visible(Control::rect2)));
   rect_->setGeometry(msf_frame);
   rect2_->setGeometry(pixels(layout.rect2));
   msf_->setGeometry(pixels(layout.MSF));

@@ -12,10 +12,12 @@
 #include "ui/qt/about_dialog.hpp"
 #include "ui/qt/command_bar.hpp"
 #include "ui/qt/deferred_call.hpp"
+#include "ui/qt/explanation_panel.hpp"
 #include "ui/qt/grid_view.hpp"
 #include "ui/qt/line_overlay.hpp"
 #include "ui/qt/option_bar.hpp"
 #include "ui/qt/program_guard.hpp"
+#include "ui/qt/question_gate.hpp"
 
 namespace sdk {
 
@@ -29,6 +31,10 @@ class MainFrame : public QWidget, private WindowListener {
 
   /// To be called once, before the window is shown: places it in the middle of the screen.
   void centre_on_screen();
+
+  /// Asks the question of a hint, which the explanation of the hint is read beside; returns what
+  /// QuestionGate::ask returns.
+  int ask_about_hint(QMessageBox& box);
 
   /// The session is about to end: until the player does something, closing asks nothing.
   void expect_session_end() { session_ends_ = true; }
@@ -51,10 +57,13 @@ class MainFrame : public QWidget, private WindowListener {
   void connect_grids();
   void watch_application();
 
+  void act(const std::function<void()>& handler);
+  void preview(int code);
   void open_about();
   void close_about();
   void show_state();
   void show_grid_names();
+  void show_explanation();
   void place_widgets();
   void keep_on_screen();
 
@@ -66,7 +75,9 @@ class MainFrame : public QWidget, private WindowListener {
   QFrame* rect2_;
   GridView* msr_;
   OptionBar* options_;
+  ExplanationPanel* explanation_;
   LineOverlay* lines_;
+  QuestionGate gate_;
   AboutDialog* about_ = nullptr;  ///< exists while the box is shown
   DeferredCall update_;
   bool session_ends_ = false;

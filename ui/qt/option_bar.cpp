@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/object_names.hpp"
@@ -60,7 +61,7 @@ OptionBar::OptionBar(QWidget* parent) : QWidget(parent) {
   rows->addLayout(make_level_row());
   hint_ = make_label(this);
   hint_->setObjectName("Astuce");
-  rows->addWidget(hint_);
+  rows->addWidget(hint_, 0, Qt::AlignLeft);
   take_colours();
 }
 
@@ -117,6 +118,24 @@ void OptionBar::show_state(const MainWindow& window) {
   count_->setText(QString::fromStdString(window.control(Control::Label).caption));
   count_->setVisible(window.visible(Control::Label));
   hint_->setText(QString::fromStdString(text_of(Message::language_hint)));
+}
+
+int OptionBar::right_of_boxes() const {
+  int right = 0;
+  for (const Box& box : boxes_) right = std::max(right, box.widget->geometry().right());
+  return right;
+}
+
+QRect OptionBar::free_room(QRect room, bool below_boxes) {
+  constexpr int gap = 10;
+  layout()->activate();
+  int right = std::max(count_->geometry().right(), hint_->geometry().right());
+  if (below_boxes)
+    room.setTop(y() + boxes_.front().widget->geometry().bottom() + 1);
+  else
+    right = std::max(right, right_of_boxes());
+  room.setLeft(x() + right + gap);
+  return room;
 }
 
 void OptionBar::show_box(const MainWindow& window, const Box& box) {

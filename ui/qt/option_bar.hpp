@@ -25,6 +25,11 @@ class OptionBar : public QWidget {
   /// Shows texts, ticks, levels and visibility as `window` has them.
   void show_state(const MainWindow& window);
 
+  /// What is free of `room`, which is in the parent's coordinates and covers this bar to its right:
+  /// right of all that the bar shows, or of what it shows below the check boxes. Costs a layout
+  /// after a change of texts.
+  QRect free_room(QRect room, bool below_boxes);
+
  signals:
   void ticked(Control box, bool on);
   void level_chosen(int item);
@@ -39,6 +44,7 @@ class OptionBar : public QWidget {
   };
 
   QLayout* make_boxes();
+  int right_of_boxes() const;
   QCheckBox* make_box(Control control);
   QLayout* make_level_row();
   void take_colours();

@@ -14,6 +14,7 @@
 
 #include "screen/errors.hpp"
 #include "ui/qt/dialog_looks.hpp"
+#include "ui/qt/main_frame.hpp"
 #include "ui/qt/printing_service.hpp"
 
 namespace sdk {
@@ -36,6 +37,13 @@ void place(QMessageBox& box, const QWidget* window) {
 
 }  // namespace
 
+void QtDesktop::set_window(MainFrame* window) { window_ = window; }
+
+/// Only the question of a hint has no picture; while it is open the player reads why it is right.
+int QtDesktop::run(QMessageBox& box, bool asks_about_hint) {
+  return asks_about_hint && window_ ? window_->ask_about_hint(box) : box.exec();
+}
+
 Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
                               const std::string& title) {
   language_.follow();
@@ -48,7 +56,7 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   fit_title(box);
   remove_button_icons(box);
   place(box, window_);
-  const int pressed = box.exec();
+  const int pressed = run(box, asks && icon == Icon::none);
   guard_.rethrow();
   if (!asks) return Answer::ok;
   return pressed == QMessageBox::Yes ? Answer::yes : Answer::no;

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <QPointer>
-#include <QWidget>
 
 #include "files/platform_desktop.hpp"
 #include "ui/qt/event_pump.hpp"
@@ -13,8 +12,11 @@
 #include "ui/qt/qt_language.hpp"
 
 class QFileDialog;
+class QMessageBox;
 
 namespace sdk {
+
+class MainFrame;
 
 /// Every call that runs an event loop throws ProgramEnd when the player ended the program in it.
 class QtDesktop final : public PlatformDesktop {
@@ -23,7 +25,7 @@ class QtDesktop final : public PlatformDesktop {
   explicit QtDesktop(const ProgramGuard& guard) : guard_(guard) {}
 
   /// The window that boxes belong to and that shows the pointer.
-  void set_window(QWidget* window) { window_ = window; }
+  void set_window(MainFrame* window);
 
   Answer message_box(const std::string& text, Icon icon, Buttons buttons,
                      const std::string& title) override;
@@ -38,10 +40,11 @@ class QtDesktop final : public PlatformDesktop {
   void open_document(const std::string& document_or_address) override;
 
  private:
+  int run(QMessageBox& box, bool asks_about_hint);
   std::string chosen_file(QFileDialog& dialog, const std::string& filter);
 
   const ProgramGuard& guard_;
-  QPointer<QWidget> window_;
+  QPointer<MainFrame> window_;
   QtLanguage language_;
   EventPump pump_;
 };

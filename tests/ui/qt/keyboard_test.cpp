@@ -26,7 +26,7 @@ class KeyInDialog : public QObject {
 
  private:
   void look_for_dialog() {
-    QWidget* dialog = QApplication::activeModalWidget();
+    QWidget* dialog = open_dialog();
     if (!dialog || !dialog->isVisible()) return;
     if (kind_.isEmpty()) kind_ = dialog->metaObject()->className();
     const Qt::Key key = keys_.takeFirst();

@@ -93,12 +93,19 @@ const ShownBox& BoxAnswer::box() const {
 }
 
 void BoxAnswer::look_for_box() {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  auto* box = qobject_cast<QMessageBox*>(open_dialog());
   if (!box || !box->isVisible()) return;
   timer_.stop();
   box_ = ShownBox{box->windowTitle(), box->text(), {}};
   for (const QAbstractButton* button : box->buttons()) box_->buttons << button->text().remove('&');
   QTest::mouseClick(box->button(button_), Qt::LeftButton);
+}
+
+QDialog* open_dialog() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return qobject_cast<QDialog*>(modal);
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* box = qobject_cast<QMessageBox*>(widget); box && box->isVisible()) return box;
+  return nullptr;
 }
 
 void later(int milliseconds, const std::function<void()>& action) {

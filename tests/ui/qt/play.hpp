@@ -79,6 +79,10 @@ class BoxAnswer : public QObject {
   QTimer timer_;
 };
 
+/// The dialog that waits for the player: the modal one, or the question of a hint, which is not
+/// modal; null for none.
+QDialog* open_dialog();
+
 /// `action` after some events.
 void later(int milliseconds, const std::function<void()>& action);
 

@@ -1,0 +1,326 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// What a player reads under the grids after a hint, and how its steps are led through.
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolButton>
+
+#include "tests/ui/qt/play.hpp"
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/step_list.hpp"
+#include "ui/qt/step_painter.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+/// A hint for it finds a chain of two colours, then a naked single.
+constexpr const char* chain_grid =
+    "4387.9.1.\n165248379\n29713..84\n346.719..\n852493761\n"
+    "719..2.43\n.8132.497\n.2498713.\n973.14...";
+
+QRect place_of(const QWidget& widget) {
+  return QRect(widget.mapTo(widget.window(), QPoint()), widget.size());
+}
+
+/// What must stand where it stood, whatever is explained.
+constexpr const char* standing[] = {"Label3", "Astuce", "Label", "Niveau",   "Check1",  "Check2",
+                                    "Check3", "rect",   "MSF",   "Command1", "Command3"};
+
+using Step = std::optional<std::size_t>;
+
+}  // namespace
+
+class ExplanationTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    play_.emplace();
+    play_->draw(chain_grid);
+    play_->press(Qt::Key_F2);
+  }
+  void cleanup() { play_.reset(); }
+
+  void nothing_is_drawn_before_a_hint() { QVERIFY(!panel().isVisible()); }
+
+  void a_hint_fills_the_room_with_its_steps_the_last_in_view() {
+    hint();
+    QVERIFY(panel().isVisible());
+    QCOMPARE(list().model()->rowCount(), 2);
+    QVERIFY(text(0).startsWith("1. "));
+    QVERIFY(text(1).startsWith("2. Singleton nu"));
+    QVERIFY(list().viewport()->rect().contains(row(1)));
+    QCOMPARE(chosen(), Step());
+  }
+
+  void its_language_follows_at_once() {
+    hint();
+    play_->press(Qt::Key_F1);
+    QVERIFY(text(1).startsWith("2. Naked single"));
+    QCOMPARE(play_->find("next_step").toolTip(), "Next step");
+    QCOMPARE(play_->find("previous_step").accessibleName(), "Previous step");
+    QCOMPARE(list().accessibleName(), "Explanation");
+    play_->press(Qt::Key_F2);
+    QCOMPARE(list().accessibleName(), "Explication");
+  }
+
+  void it_goes_with_the_next_change_of_the_grid() {
+    hint();
+    play_->click_cell(1, 5);
+    QVERIFY(panel().isVisible());
+    play_->type("6");
+    QVERIFY(!panel().isVisible());
+  }
+
+  void the_focus_goes_to_the_grid_when_the_steps_go() {
+    hint();
+    list().setFocus();
+    play_->click("Command1");
+    QVERIFY(!panel().isVisible());
+    QVERIFY(play_->find("MSF").hasFocus());
+  }
+
+  void it_has_room_beside_the_options_with_the_candidates() {
+    play_->click("Check2");
+    hint();
+    QVERIFY(place_of(panel()).width() >= 430);
+    for (const auto key : {Qt::Key_F2, Qt::Key_F1}) {
+      play_->press(key);
+      const QRect room = place_of(panel());
+      QVERIFY(room.width() >= 370 && room.height() >= 86);
+      expect_free(room);
+    }
+  }
+
+  void it_has_room_below_the_options_without_the_candidates() {
+    hint();
+    for (const auto key : {Qt::Key_F2, Qt::Key_F1}) {
+      play_->press(key);
+      const QRect room = place_of(panel());
+      QVERIFY(room.width() >= 220 && room.height() >= 60);
+      expect_free(room);
+    }
+  }
+
+  void five_lines_are_in_view_with_the_candidates() {
+    play_->click("Check2");
+    hint();
+    QVERIFY(list().viewport()->height() >= 5 * list().fontMetrics().lineSpacing());
+  }
+
+  void nothing_else_moves_for_it() {
+    QList<QRect> before;
+    for (const char* name : standing) before << place_of(play_->find(name));
+    const QSize size = play_->frame.size();
+    hint();
+    for (int i = 0; i < before.size(); ++i) QCOMPARE(place_of(play_->find(standing[i])), before[i]);
+    QCOMPARE(play_->frame.size(), size);
+  }
+
+  void a_long_sentence_is_wrapped_and_scrolls_by_keys() {
+    hint();
+    list().setFocus();
+    play_->press(Qt::Key_Home);
+    QCOMPARE(chosen(), Step(0));
+    QVERIFY(row(0).height() > list().viewport()->height());
+    QVERIFY(row(0).width() <= list().viewport()->width());
+    QCOMPARE(row(0).top(), 0);
+    play_->press(Qt::Key_Down);
+    QCOMPARE(chosen(), Step(0));
+    QVERIFY(row(0).top() < 0);
+    for (int i = 0; i < 20 && chosen() == Step(0); ++i) play_->press(Qt::Key_Down);
+    QCOMPARE(chosen(), Step(1));
+  }
+
+  void a_larger_font_is_wrapped_as_well() {
+    QFont font = list().font();
+    font.setPointSize(font.pointSize() * 2);
+    list().setFont(font);
+    hint();
+    QVERIFY(row(0).height() > 8 * list().fontMetrics().lineSpacing());
+    list().verticalScrollBar()->setValue(list().verticalScrollBar()->maximum());
+    QVERIFY(row(1).bottom() < list().viewport()->height());
+  }
+
+  void a_click_chooses_a_step_and_another_one_leaves_it() {
+    hint();
+    click_row(1);
+    QCOMPARE(chosen(), Step(1));
+    QCOMPARE(list().chosen(), Step(1));
+    click_row(1);
+    QCOMPARE(chosen(), Step());
+    QCOMPARE(list().chosen(), Step());
+  }
+
+  void the_buttons_lead_round_through_the_steps() {
+    hint();
+    for (const Step step : {Step(0), Step(1), Step()}) {
+      click_button("next_step");
+      QCOMPARE(chosen(), step);
+    }
+    for (const Step step : {Step(1), Step(0), Step()}) {
+      click_button("previous_step");
+      QCOMPARE(chosen(), step);
+    }
+    QVERIFY(play_->find("MSF").hasFocus());
+  }
+
+  void keys_lead_through_the_steps() {
+    play_->click("Check2");
+    hint();
+    list().setFocus();
+    for (const auto& [key, step] :
+         {std::pair(Qt::Key_Up, Step(1)), std::pair(Qt::Key_Home, Step(0)),
+          std::pair(Qt::Key_End, Step(1)), std::pair(Qt::Key_Down, Step()),
+          std::pair(Qt::Key_Down, Step(0)), std::pair(Qt::Key_Escape, Step())}) {
+      play_->press(key);
+      QCOMPARE(chosen(), step);
+    }
+  }
+
+  void tab_comes_to_the_steps_after_the_options() {
+    hint();
+    play_->find("Niveau").setFocus();
+    for (const char* name : {"steps", "previous_step", "next_step", "Command1"}) {
+      play_->press(Qt::Key_Tab);
+      QCOMPARE(QApplication::focusWidget()->objectName(), name);
+    }
+  }
+
+  void digits_typed_in_the_list_change_no_cell() {
+    hint();
+    list().setFocus();
+    play_->type("6");
+    QVERIFY(panel().isVisible());
+    QCOMPARE(chosen(), Step());
+  }
+
+  void a_chosen_step_is_painted_in_the_candidates_and_leaves_them_as_they_are() {
+    play_->click("Check2");
+    hint();
+    const QImage before = picture("MSR");
+    const std::vector<DisplayCell> cells = play_->window.MSR.cells();
+    click_button("next_step");
+    QCOMPARE(picture("MSR"), painted(*play_->window.explanation().picture()));
+    QCOMPARE(play_->window.MSR.cells(), cells);
+    click_button("next_step");
+    click_button("next_step");
+    QCOMPARE(picture("MSR"), before);
+  }
+
+  void a_struck_out_digit_looks_otherwise() {
+    PictureCell cell{.candidates = {5, 6}, .mark = Mark::removed};
+    const QImage kept = painted(cell);
+    cell.removed = {5};
+    const QImage lost = painted(cell);
+    cell.pattern = {6};
+    const QImage bold = painted(cell);
+    for (const auto& [one, other, digit, same] :
+         {std::tuple(kept, lost, 5, false), std::tuple(kept, lost, 6, true),
+          std::tuple(lost, bold, 6, false), std::tuple(lost, bold, 5, true)}) {
+      const QRect place = candidate_place(QRect(0, 0, cell_side, cell_side), digit);
+      QCOMPARE(one.copy(place) == other.copy(place), same);
+    }
+  }
+
+  void without_the_candidates_the_cells_of_a_step_are_framed_in_the_puzzle() {
+    hint();
+    const QImage before = picture("MSF");
+    const std::vector<DisplayCell> cells = play_->window.MSF.cells();
+    click_button("previous_step");
+    const QImage framed = picture("MSF");
+    for (int number = 1; number <= 81; ++number) {
+      const auto [row, column] = cell_at(number);
+      const QRect square((column - 1) * cell_side, (row - 1) * cell_side, cell_side, cell_side);
+      const bool marked = number == 6 * 9 - 2;  // the single of row 6, column 7
+      QCOMPARE(framed.copy(square) != before.copy(square), marked);
+    }
+    QCOMPARE(play_->window.MSF.cells(), cells);
+    click_button("next_step");
+    QCOMPARE(picture("MSF"), before);
+  }
+
+  void a_step_moves_to_the_grid_that_is_on_screen() {
+    hint();
+    click_button("previous_step");
+    const QImage framed = picture("MSF");
+    play_->click("Check2");
+    QCOMPARE(picture("MSR"), painted(*play_->window.explanation().picture()));
+    QVERIFY(picture("MSF") != framed);
+  }
+
+  void a_step_is_painted_at_any_size() {
+    hint();
+    play_->window.choose_step(0);
+    const StepPicture step = *play_->window.explanation().picture();
+    for (const int side : {300, 468, 1404}) {
+      QImage image(side, side, QImage::Format_RGB32);
+      QPainter painter(&image);
+      paint_step(painter, image.rect(), step);
+      const auto back = [&](int row, int column) {
+        return image.pixelColor((column - 1) * side / 9 + side / 45,
+                                (row - 1) * side / 9 + side / 45);
+      };
+      QCOMPARE(back(8, 9), QColor(0xff, 0xff, 0));
+      QCOMPARE(back(1, 5), QColor(0xc0, 0xff, 0xc0));
+      QCOMPARE(image.pixelColor(side - 1, side - 1), QColor(Qt::black));
+    }
+  }
+
+ private:
+  QWidget& panel() { return play_->find("explanation"); }
+  StepList& list() { return play_->find<StepList>("steps"); }
+  QString text(int row) { return list().model()->index(row, 0).data().toString(); }
+  QRect row(int number) { return list().visualRect(list().model()->index(number, 0)); }
+  void expect_free(const QRect& room) {
+    QVERIFY(play_->frame.rect().contains(room));
+    for (const char* name : standing) QVERIFY2(!room.intersects(place_of(play_->find(name))), name);
+    for (const char* grid : {"rect", "rect2"})
+      QVERIFY(!room.intersects(place_of(play_->find(grid))));
+  }
+  void click_row(int number) {
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(number).center());
+    play_->settle();
+  }
+  void click_button(const char* name) {
+    QTest::mouseClick(&play_->find(name), Qt::LeftButton);
+    play_->settle();
+  }
+  QImage picture(const char* grid) { return play_->find(grid).grab().toImage(); }
+  /// What the candidate grid shows of a step: the box lines are drawn over it.
+  QImage painted(const StepPicture& step) {
+    QImage image = picture("MSR");
+    QPainter painter(&image);
+    for (int number = 1; number <= 81; ++number) {
+      const auto [row, column] = cell_at(number);
+      paint_step_cell(painter,
+                      QRect((column - 1) * cell_side, (row - 1) * cell_side, cell_side, cell_side),
+                      step.cells(row, column));
+    }
+    paint_step_links(painter, QRect(QPoint(), QSize(9 * cell_side, 9 * cell_side)), step);
+    return image;
+  }
+  static QImage painted(const PictureCell& cell) {
+    QImage image(cell_side, cell_side, QImage::Format_RGB32);
+    QPainter painter(&image);
+    paint_step_cell(painter, image.rect(), cell);
+    return image;
+  }
+  Step chosen() { return play_->window.explanation().chosen(); }
+  void hint() {
+    BoxAnswer no(QMessageBox::No);
+    play_->click("Command8");
+    play_->settle();
+    if (!no.was_shown()) qFatal("no question was asked");
+  }
+
+  std::optional<Play> play_;
+};
+
+}  // namespace sdk::test
+
+SUDOKU_WINDOW_TEST(sdk::test::ExplanationTest)
+#include "explanation_test.moc"
