@@ -145,6 +145,26 @@ TopicText box_lines_topic(Arguments&) {
   };
 }
 
+// The explanation.
+
+std::string explanation(Script& script) {
+  const Explanation& shown = script.window().explanation();
+  std::string text;
+  std::size_t step = 0;
+  for (const std::string& line : shown.texts(globals.Langue)) {
+    text += (step > 0 ? "\n" : "") + std::string(step == shown.chosen() ? "> " : "  ");
+    text += std::to_string(++step) + ". " + line;
+  }
+  return text.empty() ? "none" : text;
+}
+
+TopicText step_topic(Arguments&) {
+  return [](Script& script) {
+    const auto picture = script.window().explanation().picture();
+    return picture ? drawing(*picture) : std::string("none\n");
+  };
+}
+
 // The desktop.
 
 std::string title(Script& script) { return in_quotes(script.window().title()); }
@@ -171,6 +191,16 @@ constexpr Topic table[] = {
      grid_topic<&Window::MSF>},
     {"MSR", "[text|back|R C]", "the candidates in the same forms", grid_topic<&Window::MSR>},
     {"marks", "", "the cells of MSR by mark: 3=r1c3,r4c5 4=r1c1 5= 6=", plain<marks>},
+    {"explanation", "",
+     "the steps of the last hint, one a line, numbered; > in front of the chosen one; none when "
+     "there is no explanation",
+     plain<explanation>},
+    {"step", "",
+     "the chosen step: nine lines of nine cells, =5 a value, 38 the candidates before it, 0 when "
+     "there is none, - after one that it removes; in front ! for a cell that loses something, * "
+     "for "
+     "a support, + for the second role; none when no step is chosen",
+     step_topic},
     {"current", "", "the current cell of MSF: r1c1", plain<current>},
     {"selection", "", "the selection of MSF: r1c1 r9c9", plain<selection>},
     {"visible", "", "the names of the visible controls", plain<visible>},
