@@ -15,6 +15,18 @@ constexpr const char* buttons[] = {"Command1", "Command2", "Command3",  "Command
                                    "sauve",    "aide",     "Bouton_GO", "Bouton_GO"};
 constexpr const char* answers[] = {"answer yes", "answer no", "answer file a.sdk",
                                    "answer file b.sdk"};
+constexpr const char* steps[] = {"step 1",
+                                 "step 2",
+                                 "step 3",
+                                 "step none",
+                                 "show step",
+                                 "show explanation",
+                                 "at question step 1",
+                                 "at question step 2",
+                                 "at question step none",
+                                 "at question show step",
+                                 "at question show explanation",
+                                 "at question click Command8"};
 constexpr const char* rare_events[] = {"close window",
                                        "close taskmanager",
                                        "close session",
@@ -53,9 +65,10 @@ std::string EventSource::plain_event() {
   if (kind < 45) return key();
   if (kind < 65) return select();
   if (kind < 82) return click();
-  if (kind < 90) return check();
-  if (kind < 93) return level();
-  return kind < 98 ? answer() : rare();
+  if (kind < 88) return check();
+  if (kind < 90) return level();
+  if (kind < 94) return answer();
+  return kind < 98 ? one_of(steps) : rare();
 }
 
 std::string EventSource::key() {
