@@ -11,6 +11,7 @@
 #include "tools/script/keyboard.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/show.hpp"
+#include "tools/script/steps.hpp"
 
 namespace sdk {
 
@@ -181,23 +182,6 @@ Action start(Script& script, Arguments& arguments) {
   return [&script, command_line] { script.start(command_line); };
 }
 
-void choose_step(MainWindow& window, std::size_t number) {
-  const std::size_t steps = window.explanation().size();
-  if (number > steps)
-    throw ScriptError("no step " + std::to_string(number) + ": the explanation has " +
-                      std::to_string(steps));
-  window.choose_step(number - 1);
-}
-
-Action step(Script& script, Arguments& arguments) {
-  if (arguments.next() == "none") {
-    arguments.take_word("N");
-    return [&script] { script.window().choose_step(std::nullopt); };
-  }
-  const long number = arguments.take_number("N", 1, std::numeric_limits<int>::max());
-  return [&script, number] { choose_step(script.window(), static_cast<std::size_t>(number)); };
-}
-
 Action export_entry(Script& script, Arguments&) {
   return [&script] { script.window().export_entry(); };
 }
@@ -237,7 +221,7 @@ constexpr Command table[] = {
      "it is printed; only step and show can",
      event, at},
     {"step", "N|none", "show step N of the explanation alone, 1 the first; none: no step", look,
-     step},
+     choose_step},
     {"close", "window|taskmanager|session", "ask the window to close", event, close},
     {"export", "", "append the puzzle in hand to Grilles.txt", event, export_entry},
     {"start", "[ARGUMENTS]",

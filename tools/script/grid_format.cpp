@@ -3,9 +3,6 @@
 
 #include "tools/script/grid_format.hpp"
 
-#include <algorithm>
-#include <array>
-
 #include "game/window.hpp"
 #include "tools/script/text_format.hpp"
 
@@ -44,51 +41,6 @@ std::string marked_cells(const DisplayGrid& grid, int mark) {
     for (int c = 0; c < DisplayGrid::size; ++c)
       if (grid.cell(r, c).mark == mark) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
   return std::to_string(mark) + '=' + cells;
-}
-
-namespace {
-
-std::string prefix_of(Mark mark) {
-  switch (mark) {
-    case Mark::removed:
-      return "!";
-    case Mark::support:
-      return "*";
-    case Mark::second:
-      return "+";
-    default:
-      return "";
-  }
-}
-
-std::string drawing(const PictureCell& cell) {
-  std::string text = prefix_of(cell.mark);
-  if (cell.value != 0) return text + '=' + std::to_string(cell.value);
-  if (cell.candidates.empty()) return text + '0';
-  for (const int digit : cell.candidates)
-    text += std::to_string(digit) + (cell.removed.contains(digit) ? "-" : "");
-  return text;
-}
-
-std::size_t width_of(const StepPicture& step, int column) {
-  std::size_t width = 0;
-  for (int row = 1; row <= 9; ++row)
-    width = std::max(width, drawing(step.cells(row, column)).size());
-  return width;
-}
-
-}  // namespace
-
-std::string drawing(const StepPicture& step) {
-  std::array<std::size_t, 8> widths{};  // nothing follows the last column
-  for (std::size_t c = 0; c < widths.size(); ++c)
-    widths[c] = width_of(step, static_cast<int>(c) + 1);
-  return square_text(" ", [&](int r, int c) {
-    std::string text = drawing(step.cells(r + 1, c + 1));
-    const auto column = static_cast<std::size_t>(c);
-    if (column < widths.size()) text.resize(widths[column], ' ');
-    return text;
-  });
 }
 
 }  // namespace sdk

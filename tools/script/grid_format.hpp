@@ -7,7 +7,6 @@
 
 #include <string>
 
-#include "explanations/step_picture.hpp"
 #include "screen/display_grid.hpp"
 
 namespace sdk {
@@ -37,9 +36,5 @@ std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which);
 
 /// "3=r1c3,r4c5": the cells that carry a mark.
 std::string marked_cells(const DisplayGrid& grid, int mark);
-
-/// Nine lines of nine cells, in columns: "=5" a value, "38" candidates, "0" when there is none, "-"
-/// after a removed one; in front the mark: ! removed, * support, + second.
-std::string drawing(const StepPicture& step);
 
 }  // namespace sdk

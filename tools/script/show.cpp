@@ -10,6 +10,7 @@
 
 #include "tools/script/grid_format.hpp"
 #include "tools/script/script.hpp"
+#include "tools/script/steps.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {
@@ -145,26 +146,6 @@ TopicText box_lines_topic(Arguments&) {
   };
 }
 
-// The explanation.
-
-std::string explanation(Script& script) {
-  const Explanation& shown = script.window().explanation();
-  std::string text;
-  std::size_t step = 0;
-  for (const std::string& line : shown.texts(globals.Langue)) {
-    text += (step > 0 ? "\n" : "") + std::string(step == shown.chosen() ? "> " : "  ");
-    text += std::to_string(++step) + ". " + line;
-  }
-  return text.empty() ? "none" : text;
-}
-
-TopicText step_topic(Arguments&) {
-  return [](Script& script) {
-    const auto picture = script.window().explanation().picture();
-    return picture ? drawing(*picture) : std::string("none\n");
-  };
-}
-
 // The desktop.
 
 std::string title(Script& script) { return in_quotes(script.window().title()); }
@@ -194,13 +175,13 @@ constexpr Topic table[] = {
     {"explanation", "",
      "the steps of the last hint, one a line, numbered; > in front of the chosen one; none when "
      "there is no explanation",
-     plain<explanation>},
+     show_explanation},
     {"step", "",
      "the chosen step: nine lines of nine cells, =5 a value, 38 the candidates before it, 0 when "
      "there is none, - after one that it removes; in front ! for a cell that loses something, * "
      "for "
      "a support, + for the second role; none when no step is chosen",
-     step_topic},
+     show_step},
     {"current", "", "the current cell of MSF: r1c1", plain<current>},
     {"selection", "", "the selection of MSF: r1c1 r9c9", plain<selection>},
     {"visible", "", "the names of the visible controls", plain<visible>},
