@@ -15,7 +15,10 @@ constexpr const char* buttons[] = {"Command1", "Command2", "Command3",  "Command
                                    "sauve",    "aide",     "Bouton_GO", "Bouton_GO"};
 constexpr const char* answers[] = {"answer yes", "answer no", "answer file a.sdk",
                                    "answer file b.sdk"};
-constexpr const char* steps[] = {"step 1",
+constexpr const char* hints[] = {"click Command8",
+                                 "click Command8",
+                                 "click Command8",
+                                 "step 1",
                                  "step 2",
                                  "step 3",
                                  "step none",
@@ -65,10 +68,10 @@ std::string EventSource::plain_event() {
   if (kind < 45) return key();
   if (kind < 65) return select();
   if (kind < 82) return click();
-  if (kind < 88) return check();
-  if (kind < 90) return level();
-  if (kind < 94) return answer();
-  return kind < 98 ? one_of(steps) : rare();
+  if (kind < 87) return check();
+  if (kind < 89) return level();
+  if (kind < 92) return answer();
+  return kind < 98 ? one_of(hints) : rare();
 }
 
 std::string EventSource::key() {
