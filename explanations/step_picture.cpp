@@ -58,7 +58,7 @@ class Artist {
     for (int number = 1; number <= 81; ++number) {
       const Cell cell = cell_at(number);
       at(number).value = before.value(cell);
-      if (at(number).value == 0) at(number).candidates = before.digits(cell);
+      at(number).candidates = before.digits(cell);
     }
   }
 
@@ -72,7 +72,6 @@ class Artist {
   void draw_pattern() {
     for (const Premise& premise : step_.premises)
       std::visit([this](const auto& fact) { draw(fact); }, premise);
-    if (step_.placement) rest_on(step_.placement->cell.number(), {step_.placement->digit});
   }
   void draw(const CellHolds& fact) { rest_on(fact.cell.number(), fact.digits); }
   void draw(const DigitInUnit& fact) {
@@ -81,9 +80,7 @@ class Artist {
   void draw(const OneSolution& fact) {
     for (const int cell : fact.corners) rest_on(cell, fact.digits);
   }
-  void rest_on(int cell, NineSet digits) {
-    at(cell).pattern |= (digits & at(cell).candidates) - at(cell).removed;
-  }
+  void rest_on(int cell, NineSet digits) { at(cell).pattern |= digits - at(cell).removed; }
 
   // The marks.
 

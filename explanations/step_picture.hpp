@@ -13,8 +13,8 @@ namespace sdk {
 
 /// A cell as it stood before the step.
 struct PictureCell {
-  int value = 0;  ///< 1..9; 0 while it is empty
-  NineSet candidates{};
+  int value = 0;         ///< 1..9; 0 while it is empty
+  NineSet candidates{};  ///< none in a cell that has a value
   Mark mark = Mark::none;
   NineSet pattern{};  ///< those that the step rests on, or that is offered: candidates that stay
   NineSet removed{};  ///< those of its candidates that the step removes

@@ -164,7 +164,7 @@ const Drawing drawings[] = {
       {{7, 5}, {3, 5, 8}},
       {{7, 9}, {5, 7}}},
      "r4c4*_3_8 r4c5*_3_8 r7c4*_3_5_8 r7c5*_3_5_8 r7c9!5-7"},
-    {"AvoidedCornersWithThreeExtraDigits",
+    {"RectangleWithThreeCornersThatShareADigit",
      &technique_named("unique_rectangle"),
      {{{4, 4}, {3, 8}},
       {{4, 5}, {3, 5, 8}},
@@ -176,6 +176,10 @@ const Drawing drawings[] = {
      &technique_named("unique_rectangle"),
      {{{4, 4}, {3, 8}}, {{4, 5}, {3, 8}}, {{7, 4}, {3, 5, 8}}, {{7, 5}, {3, 6, 8}}, {{7, 9}, {8}}},
      "r4c4*_3_8 r4c5*_3_8 r7c4*_358- r7c5*_368-"},
+    {"RectangleBoundToItsDiagonal",
+     &technique_named("unique_rectangle"),
+     {{{4, 4}, {3, 5, 8}}, {{4, 5}, {3, 8}}, {{7, 4}, {3, 8}}, {{7, 5}, {3, 6, 8}}},
+     "r4c4*3-5_8 r4c5*_3_8 r7c4*_3_8 r7c5*3-6_8"},
     {"XWing",
      &technique_named("x_wing"),
      {{{2, 3}, {5, 6}}, {{2, 8}, {5}}, {{6, 3}, {5}}, {{6, 8}, {5}}, {{9, 3}, {5, 7}}},
@@ -286,6 +290,18 @@ TEST(StepDrawings, AnAvoidableRectangleMarksValues) {
   EXPECT_EQ(cells_of(picture), "r2c1*=3 r2c8*=8 r5c1*=8 r5c8!3-89");
 }
 
+TEST(StepDrawings, RolesGiveTheMarksThatAHintDoesNotDraw) {
+  Deduction step;
+  for (std::size_t role = 0; role < role_count; ++role)
+    step.cells[role].insert(static_cast<int>(role) + 1);
+  step.cells_as(Role::pattern).insert(Cell{9, 9});
+  step.removed[5].insert(Cell{9, 9});
+  step.removed[5].insert(Cell{9, 8});
+  step.highlights = {{{9, 8}, Mark::second, {}}, {{9, 7}, std::nullopt, {5}}};
+  const StepPicture picture = picture_of({EventKind::removal, holding({}), step});
+  EXPECT_EQ(cells_of(picture), "r1c1* r1c2* r1c3+ r1c4* r1c5+ r1c6+ r1c7* r1c8+ r9c8+ r9c9!");
+}
+
 TEST(StepDrawings, AnEndHasNoMoreThanItsDeadCell) {
   sdk::Run run(holding({{{1, 1}, {4, 5}}, {{1, 2}, {4, 5}}}), {});
   const Event& dead = run.next();
@@ -320,8 +336,8 @@ std::string fault_of_digits(const StepPicture& picture, const Event& event) {
     for (int digit = 1; digit <= 9; ++digit)
       if (event.deduction.losers_of(digit).contains(number)) removed.insert(digit);
     if (shown.value != event.before.candidates.value(cell)) return "another value";
-    if (shown.value == 0 && shown.candidates != event.before.candidates.digits(cell))
-      return "other candidates";
+    if (shown.candidates != event.before.candidates.digits(cell)) return "other candidates";
+    if (shown.value != 0 && !shown.candidates.empty()) return "a value with candidates";
     if (shown.removed != removed) return "other removals";
     if (!shown.candidates.contains_all(removed)) return "a removed digit was not there";
     if (!(shown.candidates - removed).contains_all(shown.pattern)) return "a wrong bold digit";
