@@ -13,15 +13,15 @@ namespace sdk {
 
 /// A cell as it stood before the step.
 struct PictureCell {
-  int value = 0;  ///< 1..9; 0 while it is empty
-  NineSet candidates;
+  int value = 0;         ///< 1..9; 0 while it is empty
+  NineSet candidates{};  ///< none in a cell that has a value
   Mark mark = Mark::none;
-  NineSet pattern;  ///< those of its candidates that the step rests on, or that is offered
-  NineSet removed;  ///< those of its candidates that the step removes
+  NineSet pattern{};  ///< those that the step rests on, or that is offered: candidates that stay
+  NineSet removed{};  ///< those of its candidates that the step removes
   bool operator==(const PictureCell&) const = default;
 };
 
-/// A thin line between the same digit's, or two cells', candidates; a digit is 1..9.
+/// A thin line between a candidate of one cell and the same digit in another.
 struct PictureLink {
   Placement from, to;
   bool operator==(const PictureLink&) const = default;
@@ -30,12 +30,16 @@ struct PictureLink {
 /// Rows and columns are 1..9.
 struct StepPicture {
   Square<PictureCell> cells;
-  std::vector<PictureLink> links;  ///< of a chain
-  std::vector<Unit> lines;         ///< of a fish
+  /// How a wing's cells hang together, and the strong links of colouring. No two join the same.
+  std::vector<PictureLink> links;
+  /// A fish's base lines in ascending order, then those that cross them.
+  std::vector<Unit> lines;
   bool operator==(const StepPicture&) const = default;
 };
 
-/// What the step does and what it rests on. A step that ends a hint without an offer has the cell
+/// What the step does and what it rests on. A cell has the mark that the hint draws; where that has
+/// none, a cell of the pattern gets the one of its role, and a cell that loses something
+/// Mark::removed. A step that ends a hint without an offer has the cell
 /// that is dead, if any, and nothing else.
 StepPicture picture_of(const Event& event);
 

@@ -86,6 +86,7 @@ void Window::maj_indices() {
   int filled = 0;
   for (int r = 0; r < DisplayGrid::size; ++r)
     for (int c = 0; c < DisplayGrid::size; ++c) filled += MSF.is_filled(r, c);
+  forget_outdated_hint();
   show_count(filled);
   if (filled < 81) return;
   verify_valide();

@@ -61,7 +61,8 @@ class Window {
   void CreateGrille();
   /// Writes the digits of `Grille` into `MSF`, green where the cell was not fixed.
   void Afficher_resGrille();
-  /// Shows the count of filled cells; announces a full grid by a message box.
+  /// Shows the count of filled cells; announces a full grid by a message box. The steps of a hint
+  /// for another grid are forgotten before.
   void maj_indices();
   /// Colours every cell by comparison with `ChaineSolution`: the "Show bad values" command.
   void essai();
@@ -87,6 +88,10 @@ class Window {
   virtual void tell_hint() = 0;
   /// Shows no step of the hint alone any more.
   virtual void leave_step() = 0;
+  /// Tells the steps of no hint any more.
+  virtual void forget_hint() = 0;
+  /// The same when the steps that are told are those of another grid than `MSF` shows.
+  virtual void forget_outdated_hint() = 0;
   /// Repaints the whole window.
   virtual void refresh() = 0;
   /// Gives the keyboard focus to a control.

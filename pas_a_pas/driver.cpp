@@ -128,6 +128,7 @@ void act_on(const Event& event) {
 void run() {
   init_candidats();
   efface_couleurs();
+  sudoku().forget_hint();  // its steps are about to go
   Run& hint = solver.hint.emplace(solver.position);
   while (!hint.is_over()) {
     const Event& event = hint.next();

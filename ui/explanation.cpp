@@ -20,8 +20,8 @@ std::vector<std::string> texts_of(const DisplayGrid& grid) {
 }  // namespace
 
 void Explanation::tell(const DisplayGrid& grid) {
-  puzzle_ = texts_of(grid);
-  chosen_.reset();
+  clear();
+  if (solver.hint) puzzle_ = texts_of(grid);
 }
 
 void Explanation::clear() {
@@ -47,6 +47,14 @@ void Explanation::choose(std::optional<std::size_t> step) {
 std::optional<StepPicture> Explanation::picture() const {
   if (!chosen_) return std::nullopt;
   return picture_of(solver.hint->events()[*chosen_]);
+}
+
+std::string Explanation::fault(const DisplayGrid& grid) const {
+  if (puzzle_.empty()) return chosen_ ? "a step of no explanation is chosen" : "";
+  if (is_outdated(grid)) return "the explanation is of another puzzle";
+  if (!solver.hint || !solver.hint->is_over()) return "the explanation is of no hint";
+  if (chosen_ && *chosen_ >= size()) return "the chosen step is missing";
+  return "";
 }
 
 }  // namespace sdk

@@ -20,8 +20,8 @@ class DisplayGrid;
 /// again once the grid is not the one that the hint was asked for. Steps are counted from 0.
 class Explanation {
  public:
-  /// Tells the steps of `solver.hint`, which was asked for the puzzle that `grid` shows. None is
-  /// chosen.
+  /// Tells the steps of `solver.hint`, if there is one; it was asked for the puzzle that `grid`
+  /// shows. None is chosen.
   void tell(const DisplayGrid& grid);
   void clear();
   /// Whether it is not empty but of another puzzle than `grid` shows.
@@ -36,6 +36,9 @@ class Explanation {
   std::optional<std::size_t> chosen() const { return chosen_; }
   /// The chosen step as a drawing, if there is one.
   std::optional<StepPicture> picture() const;
+
+  /// Empty when all of this holds together, and with what `grid` shows; else what does not.
+  std::string fault(const DisplayGrid& grid) const;
 
  private:
   std::vector<std::string> puzzle_;  ///< the cells' texts, row by row; none while it is empty

@@ -12,7 +12,7 @@ namespace sdk {
 void MainWindow::run_guarded(const std::function<void()>& handler) {
   try {
     handler();
-    if (explanation_.is_outdated(MSF)) forget_hint();
+    forget_outdated_hint();
   } catch (const RuntimeError& error) {
     end_fatally(error);
   }

@@ -89,6 +89,10 @@ void MainWindow::forget_hint() {
   if (listener_) listener_->explanation_changed();
 }
 
+void MainWindow::forget_outdated_hint() {
+  if (explanation_.is_outdated(MSF)) forget_hint();
+}
+
 void MainWindow::refresh() {
   if (listener_) listener_->refresh();
 }

@@ -131,6 +131,8 @@ class MainWindow final : public Window {
   void MajCandidats() override;
   void tell_hint() override;
   void leave_step() override;
+  void forget_hint() override;
+  void forget_outdated_hint() override;
   void refresh() override;
   void set_focus(Control control) override;
   void set_visible(Control control, bool visible) override;
@@ -140,7 +142,6 @@ class MainWindow final : public Window {
  private:
   static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
 
-  void forget_hint();
   void run_guarded(const std::function<void()>& handler);
   [[noreturn]] void end_fatally(const RuntimeError& error);
 

@@ -89,6 +89,11 @@ void check_controls(Check& check, const MainWindow& w, const Globals& g) {
   check.expect(w.lines().size() == (w.MSR.visible() ? 8u : 4u), "box lines are missing");
 }
 
+void check_explanation(Check& check, const MainWindow& w) {
+  const std::string fault = w.explanation().fault(w.MSF);
+  check.expect(fault.empty(), fault);
+}
+
 }  // namespace
 
 std::string state_fault(const MainWindow& window) {
@@ -97,6 +102,7 @@ std::string state_fault(const MainWindow& window) {
   check_chains(check, window);
   check_globals(check, globals);
   check_controls(check, window, globals);
+  check_explanation(check, window);
   return std::move(check).fault();
 }
 

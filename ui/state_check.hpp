@@ -10,7 +10,8 @@
 
 namespace sdk {
 
-/// Empty when every text, grid, chain, flag and control is in its range; else what is not, and
+/// Empty when every text, grid, chain, flag and control is in its range, and the explanation holds
+/// together; else what is not, and
 /// where. To be called between two events.
 std::string state_fault(const MainWindow& window);
 

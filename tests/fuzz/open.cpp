@@ -22,6 +22,21 @@ void require_stable_text(const std::string& bytes) {
   if (text.size() != 180 || puzzle_file_text(*grid_of_file(text)) != text) std::abort();
 }
 
+/// Leafs through its steps while the question is open, and after No.
+void ask_for_a_hint(MainWindow& window, FakeDesktop& desktop) {
+  const auto leaf = [&](const Box&) {
+    for (std::size_t step = 0; step < window.explanation().size(); ++step) {
+      window.choose_step(step);
+      if (!window.explanation().picture()) std::abort();
+    }
+    if (window.explanation().texts("Fr").size() != window.explanation().size()) std::abort();
+  };
+  desktop.at_box = leaf;
+  window.click(Control::Command8);
+  desktop.at_box = [](const Box&) {};
+  leaf({});
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -36,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     window.finish_start();
   };
   if (!goes_on_after(start, window, desktop)) return 0;
+  if (!goes_on_after([&] { ask_for_a_hint(window, desktop); }, window, desktop)) return 0;
   desktop.chosen = {file};
   goes_on_after([&] { window.click(Control::Command6); }, window, desktop);
   return 0;

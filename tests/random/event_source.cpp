@@ -15,6 +15,21 @@ constexpr const char* buttons[] = {"Command1", "Command2", "Command3",  "Command
                                    "sauve",    "aide",     "Bouton_GO", "Bouton_GO"};
 constexpr const char* answers[] = {"answer yes", "answer no", "answer file a.sdk",
                                    "answer file b.sdk"};
+constexpr const char* hints[] = {"click Command8",
+                                 "click Command8",
+                                 "click Command8",
+                                 "step 1",
+                                 "step 2",
+                                 "step 3",
+                                 "step none",
+                                 "show step",
+                                 "show explanation",
+                                 "at question step 1",
+                                 "at question step 2",
+                                 "at question step none",
+                                 "at question show step",
+                                 "at question show explanation",
+                                 "at question click Command8"};
 constexpr const char* rare_events[] = {"close window",
                                        "close taskmanager",
                                        "close session",
@@ -53,9 +68,10 @@ std::string EventSource::plain_event() {
   if (kind < 45) return key();
   if (kind < 65) return select();
   if (kind < 82) return click();
-  if (kind < 90) return check();
-  if (kind < 93) return level();
-  return kind < 98 ? answer() : rare();
+  if (kind < 87) return check();
+  if (kind < 89) return level();
+  if (kind < 92) return answer();
+  return kind < 98 ? one_of(hints) : rare();
 }
 
 std::string EventSource::key() {

@@ -23,7 +23,7 @@ constexpr long escape_step = 1000;
 constexpr std::size_t commands_kept = 60;
 
 struct Counts {
-  long events = 0, programs = 0, searches = 0, inner_searches = 0, escapes = 0;
+  long events = 0, programs = 0, searches = 0, inner_searches = 0, escapes = 0, steps_chosen = 0;
 };
 
 /// One program from its start to its end, in folders of its own.
@@ -42,6 +42,7 @@ class Program {
   }
   bool running() const { return script_.running(); }
   std::string fault() { return running() ? state_fault(script_.window()) : ""; }
+  bool shows_a_step() { return running() && script_.window().explanation().chosen(); }
 
  private:
   void count_search() {
@@ -70,6 +71,7 @@ class RandomRun {
       if (!program_ || !program_->running()) restart();
       do_command(source_.next());
       ++counts_.events;
+      counts_.steps_chosen += program_->shows_a_step();
       const std::string fault = program_->fault();
       if (!fault.empty()) return fault;
     }
@@ -106,7 +108,8 @@ class RandomRun {
 void print(const Counts& c) {
   std::cout << c.events << " events in " << c.programs << " programs, " << c.searches
             << " searches, " << c.inner_searches << " of them inside others, " << c.escapes
-            << " stopped at step " << escape_step << '\n';
+            << " stopped at step " << escape_step << ", a step of a hint on show after "
+            << c.steps_chosen << " events\n";
 }
 
 int play(std::uint32_t seed, long events, bool echo) {

@@ -20,6 +20,17 @@ const char* const complete_grid =
     "645978312\n"
     "978312645\n";
 
+const char* const grid_of_several_steps =
+    "...38.5..\n"
+    ".43152...\n"
+    "..5..7.2.\n"
+    "6.9....58\n"
+    "457....1.\n"
+    "3.85..94.\n"
+    "...9136..\n"
+    "..1.4..3.\n"
+    ".3.2.5...\n";
+
 std::string joined(std::string_view grid) {
   std::string text(grid);
   std::erase(text, '\n');

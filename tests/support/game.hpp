@@ -19,6 +19,9 @@ using Lines = std::vector<std::string>;
 /// A complete valid grid, nine lines.
 extern const char* const complete_grid;
 
+/// Its hint removes candidates four times before it offers r2c8=6.
+extern const char* const grid_of_several_steps;
+
 /// The same as 81 characters: `grid` without its line breaks.
 std::string joined(std::string_view grid);
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "pas_a_pas/tables.hpp"
 #include "tests/support/game.hpp"
 #include "ui/messages.hpp"
 
@@ -89,6 +90,34 @@ const Damage damages[] = {
      "Command1 is hidden"},
     {"Search", [](MainWindow& w) { w.searches_running = 1; }, "a search is still counted"},
     {"TabStop", [](MainWindow& w) { w.MSF.set_tab_stop(false); }, "MSF stayed without focus marks"},
+    {"OutdatedExplanation",
+     [](MainWindow& w) {
+       w.click(Control::Command8);
+       w.MSF.set_text(0, 0, "9");
+       w.MSF.set_text(0, 1, "9");
+     },
+     "the explanation is of another puzzle"},
+    {"LostHint",
+     [](MainWindow& w) {
+       w.click(Control::Command8);
+       solver.hint.reset();
+     },
+     "the explanation is of no hint"},
+    {"UnfinishedHint",
+     [](MainWindow& w) {
+       w.click(Control::Command8);
+       solver.hint.emplace(solver.position);
+     },
+     "the explanation is of no hint"},
+    {"MissingStep",
+     [](MainWindow& w) {
+       draw(w, grid_of_several_steps);
+       w.click(Control::Command8);
+       w.choose_step(1);
+       solver.hint.emplace(open_position({}), std::span<const Technique>{});
+       solver.hint->next();
+     },
+     "the chosen step is missing"},
     {"FocusMark", [](MainWindow& w) { w.MSF.set_marks_current(false); },
      "MSF stayed without focus marks"},
 };

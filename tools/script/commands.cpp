@@ -11,6 +11,7 @@
 #include "tools/script/keyboard.hpp"
 #include "tools/script/script.hpp"
 #include "tools/script/show.hpp"
+#include "tools/script/steps.hpp"
 
 namespace sdk {
 
@@ -135,7 +136,19 @@ Action answer(Script& script, Arguments& arguments) {
   return [&script, given] { script.desktop().queue_answer(given); };
 }
 
-Action at(Script& script, Arguments& arguments) {
+/// All but the list of steps waits for the answer.
+Action at_question(Script& script, Arguments& arguments) {
+  arguments.take_word("question");
+  const Command* command = command_named(arguments.next());
+  if (command && command->role != Command::Role::look)
+    throw ScriptError("not possible while a question is open: " + std::string(command->name));
+  const Action action = script.understand(arguments.take_rest("COMMAND"));
+  return [&script, action] {
+    script.schedule().add_to_question([&script, action] { script.attempt(action); });
+  };
+}
+
+Action at_step(Script& script, Arguments& arguments) {
   const long step = arguments.take_number("N", 1, std::numeric_limits<int>::max());
   const Command* command = command_named(arguments.next());
   if (command && command->role == Command::Role::start)
@@ -144,6 +157,10 @@ Action at(Script& script, Arguments& arguments) {
   return [&script, step, action] {
     script.schedule().add(step, [&script, action] { script.attempt(action); });
   };
+}
+
+Action at(Script& script, Arguments& arguments) {
+  return (arguments.next() == "question" ? at_question : at_step)(script, arguments);
 }
 
 CloseMode close_mode(const std::string& name) {
@@ -171,6 +188,7 @@ Action export_entry(Script& script, Arguments&) {
 
 constexpr auto setting = Command::Role::setting;
 constexpr auto event = Command::Role::event;
+constexpr auto look = Command::Role::look;
 
 constexpr Command table[] = {
     {"seed", "N", "every later puzzle pick seeds the generator with N, not the clock", setting,
@@ -196,16 +214,20 @@ constexpr Command table[] = {
      "answer of the next Yes/No box or file dialog; queued. Without one a box is answered no and a "
      "dialog cancelled. Other boxes take none",
      event, answer},
-    {"at", "N COMMAND",
+    {"at", "N|question COMMAND",
      "COMMAND happens at the N-th \"let pending events run\" of the next search; dropped when the "
-     "search ends before",
+     "search ends before. question: it happens while the next Yes/No box is open, in front of "
+     "which "
+     "it is printed; only step and show can",
      event, at},
+    {"step", "N|none", "show step N of the explanation alone, 1 the first; none: no step", look,
+     choose_step},
     {"close", "window|taskmanager|session", "ask the window to close", event, close},
     {"export", "", "append the puzzle in hand to Grilles.txt", event, export_entry},
     {"start", "[ARGUMENTS]",
      "a fresh start of the program with that command line; also after it has ended",
      Command::Role::start, start},
-    {"show", "WHAT", "print a part of the state (below)", event, show},
+    {"show", "WHAT", "print a part of the state (below)", look, show},
 };
 
 }  // namespace

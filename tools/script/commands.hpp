@@ -14,9 +14,9 @@ namespace sdk {
 class Script;
 
 struct Command {
-  /// An event starts the program when it does not run, a setting of the machine does not; a start
-  /// always does.
-  enum class Role { setting, event, start };
+  /// An event or a look starts the program when it does not run, a setting of the machine does not;
+  /// a start always does. Only a look can happen while a question is open.
+  enum class Role { setting, event, look, start };
 
   std::string_view name;
   std::string_view arguments;  ///< as `--help` shows them

@@ -24,6 +24,10 @@ void Schedule::end_searches(int depth) {
   if (searches_.size() > running) searches_.resize(running);
 }
 
+void Schedule::open_question() {
+  for (const Action& action : std::exchange(at_question_, {})) action();
+}
+
 void Schedule::begin_search() {
   Search search;
   search.events = std::exchange(waiting_, {});

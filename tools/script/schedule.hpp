@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// What is to happen while a search lets pending events run.
+/// What is to happen while a search lets pending events run, and while a question is open.
 #pragma once
 
 #include <cstddef>
@@ -23,10 +23,15 @@ class Schedule {
     standing_.push_back({step, std::move(action)});
   }
 
+  /// `action` happens while the next question is open, after all else that happens there.
+  void add_to_question(Action action) { at_question_.push_back(std::move(action)); }
+
   /// One step of the search at `depth`: runs what is due.
   void step(int depth);
   /// Searches deeper than `depth` are over; what did not happen in them is dropped.
   void end_searches(int depth);
+  /// A question is open: runs what is due.
+  void open_question();
 
  private:
   struct Event {
@@ -42,6 +47,7 @@ class Schedule {
   static std::vector<Action> take_due(Search& search);
 
   std::vector<Event> waiting_, standing_;
+  std::vector<Action> at_question_;
   std::vector<Search> searches_;  ///< running, outermost first
 };
 

@@ -23,6 +23,7 @@ std::string_view without_comment(std::string_view line) {
 Script::Script(std::ostream& out, std::ostream& errors)
     : out_(out), desktop_(out, errors), about_printer_(out) {
   desktop_.set_events([this] { schedule_.step(window_->searches_running); });
+  desktop_.set_question([this] { schedule_.open_question(); });
 }
 
 void Script::run(std::string_view line) {

@@ -70,6 +70,7 @@ Answer ScriptDesktop::take_answer() {
 Answer ScriptDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
                                   const std::string& title) {
   const bool asks = buttons == Buttons::yes_no;
+  if (asks) question_();
   const Answer answer = asks ? take_answer() : Answer::ok;
   out_ << "box " << icon_name(icon) << ' ' << in_quotes(title) << ' ' << in_quotes(text)
        << (asks ? " yes,no -> " : " ok -> ") << answer_name(answer) << '\n';

@@ -31,6 +31,8 @@ class ScriptDesktop final : public PlatformDesktop {
 
   /// What happens whenever the program lets pending events run.
   void set_events(std::function<void()> events) { events_ = std::move(events); }
+  /// What happens while a Yes/No box is open.
+  void set_question(std::function<void()> question) { question_ = std::move(question); }
   /// Answers are taken in the order in which they were queued.
   void queue_answer(Answer answer) { answers_.push_back(answer); }
   void queue_file(std::string path) { files_.push_back(std::move(path)); }
@@ -66,6 +68,7 @@ class ScriptDesktop final : public PlatformDesktop {
   std::ostream& out_;
   std::ostream& errors_;
   std::function<void()> events_ = [] {};
+  std::function<void()> question_ = [] {};
   std::deque<Answer> answers_;
   std::deque<std::string> files_;
   Pointer pointer_ = Pointer::arrow;

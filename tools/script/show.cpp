@@ -10,6 +10,7 @@
 
 #include "tools/script/grid_format.hpp"
 #include "tools/script/script.hpp"
+#include "tools/script/steps.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {
@@ -171,6 +172,16 @@ constexpr Topic table[] = {
      grid_topic<&Window::MSF>},
     {"MSR", "[text|back|R C]", "the candidates in the same forms", grid_topic<&Window::MSR>},
     {"marks", "", "the cells of MSR by mark: 3=r1c3,r4c5 4=r1c1 5= 6=", plain<marks>},
+    {"explanation", "",
+     "the steps of the last hint, one a line, numbered; > in front of the chosen one; none when "
+     "there is no explanation",
+     show_explanation},
+    {"step", "",
+     "the chosen step: nine lines of nine cells, =5 a value, 38 the candidates before it, 0 when "
+     "there is none, - after one that it removes; in front ! for a cell that loses something, * "
+     "for "
+     "a support, + for the second role; none when no step is chosen",
+     show_step},
     {"current", "", "the current cell of MSF: r1c1", plain<current>},
     {"selection", "", "the selection of MSF: r1c1 r9c9", plain<selection>},
     {"visible", "", "the names of the visible controls", plain<visible>},

@@ -10,6 +10,7 @@
 #include <set>
 #include <sstream>
 
+#include "tests/logic/drawn_cell.hpp"
 #include "tests/support/tool.hpp"
 #include "tools/script/commands.hpp"
 #include "tools/script/help.hpp"
@@ -44,7 +45,7 @@ const char* const empty_grid = "seed 1\ncheck Check3 off\nclick Command2\n";
 TEST(Script, help_tells_every_command_and_everything_that_can_be_shown) {
   const std::string help = help_text();
   for (const char* name : {"seed", "printer", "year", "program", "tmp", "click", "check", "level",
-                           "select", "key", "answer", "at", "close", "show"}) {
+                           "select", "key", "answer", "at", "step", "close", "show"}) {
     EXPECT_NE(command_named(name), nullptr) << name;
     EXPECT_NE(help.find("\n  " + std::string(name) + ' '), help.npos) << name;
   }
@@ -65,7 +66,7 @@ TEST(Script, every_command_of_the_help_exists) {
     const std::string answer = ScriptRun().play(name);
     EXPECT_EQ(answer.find("unknown"), answer.npos) << name << ": " << answer;
   }
-  EXPECT_EQ(commands_told, 17);
+  EXPECT_EQ(commands_told, 18);
 }
 
 TEST(Script, everything_that_the_help_names_can_be_shown) {
@@ -154,6 +155,18 @@ TEST(Script, malformed_commands_are_faults) {
                            "at x key 1",
                            "at 1 unheard",
                            "at 1 key Tab",
+                           "at question",
+                           "at question unheard",
+                           "at question key 1",
+                           "at question at 1 show focus",
+                           "at question step",
+                           "step",
+                           "step 0",
+                           "step 1",
+                           "step x",
+                           "step none 1",
+                           "show step 1",
+                           "show explanation 1",
                            "close",
                            "close door",
                            "show",
@@ -235,6 +248,42 @@ TEST(Script, a_step_goes_on_after_the_search_that_it_started) {
   const std::string printed =
       run.play("at 2 click Bouton_GO\nat 2 show NumCase\nat 3 show focus\nclick Bouton_GO");
   EXPECT_NE(printed.find("terminée!!\" ok -> ok\n82\nMSF\nbox"), printed.npos) << printed;
+}
+
+TEST(Script, a_look_happens_at_the_next_question_only_in_the_order_in_which_it_was_queued) {
+  ScriptRun run;
+  run.play("seed 1\nat question show focus\nat question show Langue");
+  EXPECT_EQ(run.play("click Command2\nclick Command5\nabout key 1").find("MSF"), std::string::npos)
+      << "no box of these is a question";
+  EXPECT_TRUE(run.play("close window").starts_with("MSF\n\"Fr\"\nbox question"));
+  EXPECT_TRUE(run.play("close window").starts_with("box question"));
+}
+
+TEST(Script, a_look_can_be_queued_during_a_search) {
+  ScriptRun run;
+  run.play("seed 1");
+  const std::string printed =
+      run.play("at 1 at question show NumCase\nat 2 close window\nclick Bouton_GO");
+  EXPECT_NE(printed.find("\n1\nbox question"), printed.npos) << printed;
+}
+
+TEST(Script, a_chosen_step_is_shown_as_a_drawn_board) {
+  ScriptRun run;
+  run.play("seed 4\nlevel 3\nclick Command1");
+  for (int i = 0; i < 6; ++i) run.play("answer yes");
+  run.play("click Command8\nstep 3");
+  std::istringstream words(run.play("show step"));
+  const StepPicture picture = run.script.window().explanation().picture().value();
+  int cell = 0;
+  for (std::string word; words >> word;) {
+    const DrawnCell drawn = parse_cell(word);
+    const PictureCell& shown = picture.cells[++cell];
+    EXPECT_EQ(drawn.digits, shown.candidates) << word;
+    EXPECT_EQ(drawn.removed, shown.removed) << word;
+    EXPECT_EQ(drawn.value, shown.value) << word;
+    EXPECT_EQ(drawn.prefix.value_or(0), static_cast<int>(shown.mark)) << word;
+  }
+  EXPECT_EQ(cell, 81);
 }
 
 TEST(Script, a_standing_event_happens_in_every_search_last_of_its_step) {
