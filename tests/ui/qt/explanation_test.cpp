@@ -190,6 +190,14 @@ class ExplanationTest : public QObject {
     }
   }
 
+  void the_list_shows_that_it_has_the_focus() {
+    hint();
+    const QImage before = list().grab().toImage();
+    list().setFocus();
+    play_->settle();
+    QVERIFY(list().grab().toImage() != before);
+  }
+
   void digits_typed_in_the_list_change_no_cell() {
     hint();
     list().setFocus();
