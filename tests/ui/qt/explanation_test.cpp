@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
@@ -133,6 +134,12 @@ class ExplanationTest : public QObject {
     QVERIFY(row(0).top() < 0);
     for (int i = 0; i < 20 && chosen() == Step(0); ++i) play_->press(Qt::Key_Down);
     QCOMPARE(chosen(), Step(1));
+  }
+
+  void the_mouse_over_a_sentence_that_is_too_long_is_told_the_whole() {
+    hint();
+    QVERIFY(help_for(1).isEmpty());
+    QVERIFY(help_for(0).contains("Coloriage simple"));
   }
 
   void a_larger_font_is_wrapped_as_well() {
@@ -292,6 +299,13 @@ class ExplanationTest : public QObject {
   void click_row(int number) {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(number).center());
     play_->settle();
+  }
+  QString help_for(int number) {
+    list().scrollTo(list().model()->index(number, 0));
+    const QPoint place = row(number).topLeft() + QPoint(5, 5);
+    QHelpEvent event(QEvent::ToolTip, place, list().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list().viewport(), &event);
+    return QToolTip::text();
   }
   void click_button(const char* name) {
     QTest::mouseClick(&play_->find(name), Qt::LeftButton);
