@@ -95,12 +95,14 @@ class QuestionTest : public QObject {
   void nothing_else_answers_the_mouse() {
     ask([this] {
       const auto cells = play_->window.MSF.cells();
+      click(play_->find<GridView>("MSF").viewport(), play_->cell(4, 4));
       for (const char* name : {"Command1", "Command2", "Command3", "Command5", "Command7",
                                "Command8", "Bouton_GO", "Check1", "Check2", "Check3", "Niveau"}) {
+        play_->frame.activateWindow();
         click(name);
         QVERIFY2(box().isVisible() && box().isActiveWindow(), name);
+        QVERIFY2(!QApplication::activePopupWidget(), name);
       }
-      click(play_->find<GridView>("MSF").viewport(), play_->cell(4, 4));
       wheel(play_->find("Niveau"));
       QCOMPARE(play_->window.MSF.cells(), cells);
       QCOMPARE(play_->window.MSF.current_row(), 0);
