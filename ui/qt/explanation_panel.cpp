@@ -68,8 +68,8 @@ QToolButton* ExplanationPanel::make_button(const char* name, const char* icon) {
 }
 
 void ExplanationPanel::show_state(const Explanation& explanation) {
-  for (QWidget* widget : {static_cast<QWidget*>(this), static_cast<QWidget*>(steps_)})
-    set_accessible_name(*widget, notice_text(Notice::explanation));
+  set_accessible_name(*this, notice_text(Notice::explanation));
+  set_accessible_name(*steps_, notice_text(Notice::explanation));
   name_button(*previous_, Notice::previous_step);
   name_button(*next_, Notice::next_step);
   steps_->show_steps(numbered(explanation.texts(globals.Langue)), explanation.chosen());

@@ -69,8 +69,9 @@ int QuestionGate::ask(QMessageBox& box) {
   const QPointer<QWidget> focus = window_.focusWidget();
   QEventLoop loop;
   QObject::connect(&box, &QDialog::finished, &loop, &QEventLoop::quit);
-  box.setModal(false);  // boxes are, if they are not told
+  box.setModal(false);  // a message box is, unless it is told
   box.show();
+  box.activateWindow();
   loop.exec(QEventLoop::DialogExec);
   if (focus) focus->setFocus();
   if (!box.isVisible()) window_.activateWindow();
