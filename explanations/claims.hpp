@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The facts that sentences have in common, told the same way everywhere. None ends with a full
-/// stop.
+/// The facts that sentences have in common, told the same way everywhere. None begins with a
+/// capital letter, and only removals() ends with a full stop.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@
 
 namespace sdk {
 
-/// "r1c1 and r2c5 can only be 5 or 9; r4c4 only 2": cells that can hold the same are told
+/// "r1c1 and r2c5 can only be 5 or 9; r4c4 only 2 or 5": cells that can hold the same are told
 /// together.
 std::string can_only_be(const Words& words, const std::vector<CellHolds>& facts);
 
@@ -23,8 +24,11 @@ std::string in_their_units(const Words& words, const std::vector<DigitInUnit>& f
 /// Of one unit: "in row 2, the 5 and 7 can only go in r2c3 or r2c8; the 8 only in r2c8".
 std::string in_one_unit(const Words& words, const std::vector<DigitInUnit>& facts);
 
-/// "r4c4 sees both", "r4c4 and r5c5 see them all": what is seen has just been named.
-std::string see_all(const Words& words, const CellSet& who, const CellSet& seen);
+/// "r4c4 sees a 5 in r1c4 or r7c6; r5c5 sees a 5 in ...": `seen` gives for each target the cells
+/// one of which is the digit. More than three targets that are told together are not named: this
+/// is followed by what is to be removed from them.
+std::string who_sees(const Words& words, int digit, const CellSet& targets,
+                     const std::function<CellSet(int)>& seen);
 
 /// "To remove: 3 from r1c5 and r1c7; 8 and 9 from r1c5."
 std::string removals(const Words& words, const Deduction& deduction);

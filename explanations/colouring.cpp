@@ -72,39 +72,37 @@ CellSet seen_of_both(const Colours& colours, int target) {
   return {*first.begin(), *second.begin()};
 }
 
-/// "r3c3 sees a 4 in r1c1 or r6c2": targets that see the same are told together. Takes them from
-/// `targets`.
-std::string trapped(const Words& words, const Colours& colours, int digit, CellSet& targets) {
-  std::vector<std::string> clauses;
-  for (const int target : targets) {
-    const CellSet seen = seen_of_both(colours, target);
-    if (seen.empty() || !targets.contains(target)) continue;
-    CellSet alike;
-    for (const int other : targets)
-      if (seen_of_both(colours, other) == seen) alike.insert(other);
-    targets = targets - alike;
-    clauses.push_back(words.say(alike.count() == 1 ? Text{"%1 voit %2 en %3", "%1 sees %2 in %3"}
-                                                   : Text{"%1 voient %2 en %3", "%1 see %2 in %3"},
-                                words.all_of(alike), words.a(digit), words.one_of(seen)));
-  }
-  return words.listed(clauses);
+/// The cells that see both colours.
+CellSet trapped(const Colours& colours, const CellSet& cells) {
+  CellSet targets;
+  for (const int cell : cells)
+    if (!seen_of_both(colours, cell).empty()) targets.insert(cell);
+  return targets;
+}
+
+/// The first stands behind the technique's name.
+std::string sentences_of(const std::vector<std::string>& texts) {
+  std::string all = texts.front();
+  for (std::size_t i = 1; i < texts.size(); ++i) all += " " + capital(texts[i]);
+  return all;
 }
 
 }  // namespace
 
 std::string tell_trap(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
-  const int digit = deduction.digits.first();
-  CellSet targets = deduction.losers_of(digit);
-  std::string text;
+  CellSet rest = losers(deduction);
+  std::vector<std::string> texts;
   for (const Chain& chain : chains_of(deduction)) {
     const Colours colours = colours_of(deduction, chain);
-    const std::string links = two_colours(words, chain, colours);
-    text += words.say({"%1 Dans les deux cas, %2.", "%1 Either way %2."},
-                      text.empty() ? links : " " + capital(links),
-                      trapped(words, colours, digit, targets));
+    const CellSet targets = trapped(colours, rest);
+    rest = rest - targets;
+    texts.push_back(words.say({"%1 Dans les deux cas, %2.", "%1 Either way %2."},
+                              two_colours(words, chain, colours),
+                              who_sees(words, deduction.digits.first(), targets,
+                                       [&](int target) { return seen_of_both(colours, target); })));
   }
-  return text;
+  return sentences_of(texts);
 }
 
 namespace {

@@ -54,7 +54,7 @@ std::string base_places(const Words& words, const std::vector<DigitInUnit>& fact
     const UnitKind across = crossing(unit.kind);
     clauses.push_back(words.say(
         clauses.empty()
-            ? Text{"dans %1, le %2 ne peut aller qu'en %3 %4", "in %1, the %2 can only go in %3 %4"}
+            ? Text{"dans %1, le %2 ne va qu'en %3 %4", "in %1, the %2 can only go in %3 %4"}
             : Text{"dans %1, qu'en %3 %4", "in %1, only in %3 %4"},
         unit, digit, name(words, across), words.one_of(lines_through(across, cells))));
   }
@@ -68,39 +68,45 @@ std::string tell_fish(const Words& words, const ToldStep& step) {
   const UnitKind base = deduction.unit.kind, across = crossing(base);
   const NineSet covers =
       lines_through(across, deduction.cells_as(Role::pattern) | losers(deduction));
-  return words.say({"%1. Chaque %2 en prend une autre : les %3 ont donc là leur %4.",
-                    "%1. Each %2 takes another one, so %3 have their %4 there and nowhere else."},
-                   base_places(words, premises_of<DigitInUnit>(deduction)), name(words, base),
-                   named(words, across, covers), deduction.digits.first());
+  return words.say(
+      {"%1. Chaque %2 en prend une différente : les %3 ont donc là leur %4.",
+       "%1. Each %2 takes a different one, so %3 have their %4 there and nowhere else."},
+      base_places(words, premises_of<DigitInUnit>(deduction)), name(words, base),
+      named(words, across, covers), deduction.digits.first());
 }
 
 namespace {
 
+/// "columns 6 and 9 have one of these 4s each".
+std::string one_in_each(const Words& words, const Deduction& deduction) {
+  const UnitKind base = deduction.unit.kind, across = crossing(base);
+  const NineSet covers = lines_through(across, deduction.cells_as(Role::pattern));
+  return words.say({"les %1 ont chacune un %2 de ces %3s", "%1 have one of these %2s each"},
+                   named(words, across, covers), deduction.digits.first(), name(words, base));
+}
+
 /// "If r5c4 is not 4, columns 6 and 9 have one of these 4s each; if it is, r6c6 sees it."
-std::string fin_or_wing(const Words& words, const Deduction& deduction, Cell target,
-                        const std::string& covers) {
+std::string fin_or_wing(const Words& words, const Deduction& deduction, Cell target) {
   const CellSet& fins = deduction.cells_as(Role::fin);
-  return words.say(
-      fins.count() == 1
-          ? Text{"Si %1 n'est pas %2, les %3 ont chacune un de ces %2 ; sinon %4 la voit.",
-                 "If %1 is not %2, %3 have one of these %2s each; if it is, %4 sees it."}
-          : Text{"Si aucune de %1 n'est %2, les %3 ont chacune un de ces %2 ; sinon %4 la voit.",
-                 "If none of %1 is %2, %3 have one of these %2s each; if one is, %4 sees it."},
-      words.all_of(fins), deduction.digits.first(), covers, target);
+  const int digit = deduction.digits.first();
+  const std::string wing = one_in_each(words, deduction);
+  if (fins.count() == 1)
+    return words.say({"Si %1 n'est pas %2, %3 ; sinon %4 la voit.",
+                      "If %1 is not %2, %3; if it is, %4 sees it."},
+                     words.all_of(fins), digit, wing, target);
+  return words.say({"Si ni %1 n'est %2, %3 ; sinon %4 la voit.",
+                    "If neither %1 is %2, %3; if one is, %4 sees it."},
+                   words.none_of(fins), digit, wing, target);
 }
 
 /// What both lines together exclude.
 std::string told_finned(const Words& words, const Deduction& deduction, Cell target) {
-  const UnitKind across = crossing(deduction.unit.kind);
   const int digit = deduction.digits.first();
-  const std::string covers =
-      named(words, across, lines_through(across, deduction.cells_as(Role::pattern)));
   if (deduction.rule == Rule::without_fin)
-    return words.say({"Les %1 ont donc chacune un de ces %2, et %3 n'est pas %2.",
-                      "So %1 have one of these %2s each, and %3 is not %2."},
-                     covers, digit, target);
+    return words.say({"Donc %1, et %2 n'est pas %3.", "So %1, and %2 is not %3."},
+                     one_in_each(words, deduction), target, digit);
   return words.say({"%1 Dans les deux cas, %2 n'est pas %3.", "%1 Either way %2 is not %3."},
-                   fin_or_wing(words, deduction, target, covers), target, digit);
+                   fin_or_wing(words, deduction, target), target, digit);
 }
 
 }  // namespace
@@ -111,8 +117,8 @@ std::string tell_finned_x_wing(const Words& words, const ToldStep& step) {
   const Cell target = cell_at(*losers(deduction).begin());
   const std::string places = in_their_units(words, facts);
   if (facts.size() == 1)
-    return words.say({"%1, et %2.", "%1, and %2."}, places,
-                     see_all(words, {target.number()}, facts.front().cells));
+    return words.say({"%1 ; dans tous les cas, %2 le voit.", "%1; wherever it is, %2 sees it."},
+                     places, target);
   return words.say({"%1. %2", "%1. %2"}, places, told_finned(words, deduction, target));
 }
 

@@ -3,8 +3,6 @@
 
 // Unique rectangles, and the avoidable one.
 
-#include <algorithm>
-
 #include "explanations/claims.hpp"
 #include "explanations/tellers.hpp"
 
@@ -20,11 +18,10 @@ std::string cells_told(const Words& words, const Deduction& deduction) {
 /// not claimed.
 std::string told_swap(const Words& words, const Deduction& deduction) {
   if (deduction.certain)
-    return words.say({"on pourrait échanger les %1 aux quatre coins, et il y aurait deux solutions",
-                      "the %1 could be swapped in the four corners, and there would be two "
-                      "solutions"},
+    return words.say({"on pourrait échanger les %1 aux quatre coins, d'où deux solutions",
+                      "the %1 could be swapped in the four corners, giving two solutions"},
                      words.all_of(deduction.digits));
-  return words.say({"les quatre coins n'auraient que %1, ce que la technique exclut (pas certain "
+  return words.say({"les coins n'auraient que %1, ce que la technique exclut (pas certain "
                     "ici : les coins ne sont pas dans deux régions)",
                     "the four corners would hold just %1, which the technique rules out (not "
                     "certain here: the corners do not lie in two boxes)"},
@@ -33,7 +30,7 @@ std::string told_swap(const Words& words, const Deduction& deduction) {
 
 /// What the conclusion begins with.
 std::string therefore(const Words& words, const Deduction& deduction) {
-  return words.say(deduction.certain ? Text{"Donc", "So"} : Text{"Si elle a raison,", "If so,"});
+  return words.say(deduction.certain ? Text{"Donc", "So"} : Text{"Si c'est juste,", "If so,"});
 }
 
 }  // namespace
@@ -45,28 +42,15 @@ std::string tell_odd_corner(const Words& words, const ToldStep& step) {
                    words.one_of(deduction.digits), told_swap(words, deduction));
 }
 
-namespace {
-
-/// Many cells are left to the list of what is removed.
-std::string who_sees(const Words& words, const CellSet& targets, const CellSet& roof) {
-  if (targets.count() <= 3) return see_all(words, targets, roof);
-  return roof.count() == 2
-             ? words.say({"les cases qui suivent voient les deux", "the following cells see both"})
-             : words.say(
-                   {"les cases qui suivent les voient toutes", "the following cells see them all"});
-}
-
-}  // namespace
-
 std::string tell_shared_digit(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
   const CellSet& roof = deduction.cells_as(Role::roof);
   const int digit = removed_digits(deduction).first();
-  return words.say({"%1. Si aucune de %2 n'était %3, %4. %5 %6 est %3, et %7.",
-                    "%1. If none of %2 were %3, %4. %5 %6 is %3, and %7."},
-                   cells_told(words, deduction), words.all_of(roof), digit,
-                   told_swap(words, deduction), therefore(words, deduction), words.one_of(roof),
-                   who_sees(words, deduction.losers_of(digit), roof));
+  return words.say(
+      {"%1. Si ni %2 n'était %3, %4. %5 %6.", "%1. If neither %2 were %3, %4. %5 %6."},
+      cells_told(words, deduction), words.none_of(roof), digit, told_swap(words, deduction),
+      therefore(words, deduction),
+      who_sees(words, digit, losers(deduction), [&](int) { return roof; }));
 }
 
 std::string tell_bound_to_roof(const Words& words, const ToldStep& step) {
@@ -87,7 +71,7 @@ std::string tell_bound_to_diagonal(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
   const int removed = removed_digits(deduction).first();
   const CellSet& open = deduction.cells_as(Role::roof);
-  return words.say({"%1. %2. Si %3 est %5, l'autre l'est aussi, et %4 sont %6 : %7.",
+  return words.say({"%1. %2. Si %3 est %5, l'autre aussi, et %4 sont %6 : %7.",
                     "%1. %2. If %3 is %5, so is the other, and %4 are %6: %7."},
                    cells_told(words, deduction),
                    capital(in_their_units(words, premises_of<DigitInUnit>(deduction))),

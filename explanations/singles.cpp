@@ -143,8 +143,8 @@ std::string tell_hidden_single(const Words& words, const ToldStep& step) {
   const std::string where = words.say(
       found == told ? Text{"dans %1", "in %1"} : Text{"dans %1 (et dans %2)", "in %1 (and in %2)"},
       told, found);
-  return words.say({"%1 le %2 ne peut aller qu'en %3%4.", "%1 the %2 can only go in %3%4."}, where,
-                   digit, cell,
+  return words.say({"%1 le %2 ne va qu'en %3%4.", "%1 the %2 can only go in %3%4."}, where, digit,
+                   cell,
                    clauses.empty() ? "" : words.say({" : %1", ": %1"}, words.listed(clauses)));
 }
 

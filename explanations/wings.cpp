@@ -3,8 +3,6 @@
 
 // XY-wing, XYZ-wing and W-wing.
 
-#include <algorithm>
-
 #include "explanations/claims.hpp"
 #include "explanations/tellers.hpp"
 
@@ -60,23 +58,6 @@ std::string consequences(const Words& words, const Wing& wing) {
   return words.listed(clauses);
 }
 
-/// "r5c2 or r2c5 is 2, and r2c2 sees both": cells that see the same are told together.
-std::string who_sees_what(const Words& words, const Wing& wing, const CellSet& targets) {
-  std::vector<std::string> clauses;
-  CellSet told;
-  for (const int target : targets) {
-    if (told.contains(target)) continue;
-    CellSet alike;
-    for (const int other : targets)
-      if (wing.seen_by(other) == wing.seen_by(target)) alike.insert(other);
-    told |= alike;
-    clauses.push_back(words.say({"%1 est %2, et %3", "%1 is %2, and %3"},
-                                words.one_of(wing.seen_by(target)), wing.digit,
-                                see_all(words, alike, wing.seen_by(target))));
-  }
-  return words.listed(clauses);
-}
-
 }  // namespace
 
 std::string tell_pivot_wing(const Words& words, const ToldStep& step) {
@@ -87,7 +68,8 @@ std::string tell_pivot_wing(const Words& words, const ToldStep& step) {
   return words.say({"%1. %2 voit les autres : %3. %4, %5.", "%1. %2 sees the others: %3. %4 %5."},
                    can_only_be(words, premises_of<CellHolds>(deduction)), wing.pivot,
                    consequences(words, wing), words.say(any_case),
-                   who_sees_what(words, wing, deduction.losers_of(wing.digit)));
+                   who_sees(words, wing.digit, losers(deduction),
+                            [&](int target) { return wing.seen_by(target); }));
 }
 
 namespace {

@@ -59,6 +59,13 @@ std::string Words::listed(const std::vector<std::string>& clauses) const {
   return text;
 }
 
+std::string Words::none_of(const CellSet& cells) const {
+  std::string text;
+  for (const std::string& cell : names(cells))
+    text += (text.empty() ? "" : say({" ni ", " nor "})) + cell;
+  return text;
+}
+
 std::string Words::number(int n) const {
   if (n == 2) return say({"deux", "two"});
   return n == 3 ? say({"trois", "three"}) : say({"quatre", "four"});

@@ -39,6 +39,9 @@ class Words {
   std::string one_of(NineSet digits) const { return joined(names(digits), {" ou ", " or "}); }
   std::string one_of(const CellSet& cells) const { return joined(names(cells), {" ou ", " or "}); }
 
+  /// "a nor b", "a nor b nor c".
+  std::string none_of(const CellSet& cells) const;
+
   /// "two", "three" or "four".
   std::string number(int n) const;
   /// "a 5", "an 8".
