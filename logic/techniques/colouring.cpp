@@ -13,6 +13,7 @@
 #include "logic/draft.hpp"
 #include "logic/techniques/chains.hpp"
 #include "logic/techniques/finders.hpp"
+#include "logic/techniques/needed.hpp"
 
 namespace sdk {
 
@@ -44,6 +45,25 @@ CellSet chain_seen_from(int cell, const Position& position, const ColourTable& c
 
 bool sees_one_of(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
 
+/// The cell sees both ends of a chain among the coloured ones.
+bool is_trapped(int cell, const Position& position, const ColourTable& colours, int digit) {
+  const CellSet goals = colours.cells(-1) & peers_of(cell);
+  for (const int first : colours.cells(1) & peers_of(cell))
+    if (!chain_between(position.links.strong, colours, first, goals, digit).empty()) return true;
+  return false;
+}
+
+/// As few of the cells as still trap all that lose the digit.
+CellSet needed_to_trap(const CellSet& losers, const CellSet& cells, const Position& position,
+                       const ColourTable& colours, int digit) {
+  return needed_of(cells, [&](const CellSet& some) {
+    const ColourTable part = colours.within(some);
+    for (const int loser : losers)
+      if (!is_trapped(loser, position, part, digit)) return false;
+    return true;
+  });
+}
+
 }  // namespace
 
 std::optional<Deduction> find_trap(const Position& position, const ColourTable& colours,
@@ -56,6 +76,7 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
       used |= chain_seen_from(cell, position, colours, digit);
     }
   if (!draft.deduction.removes_something()) return std::nullopt;
+  used = needed_to_trap(draft.deduction.losers_of(digit), used, position, colours, digit);
   rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }

@@ -279,7 +279,7 @@ TEST(Walk, TheSignatureIsOneNumber) {
 }
 
 TEST(Walk, RefusesOtherArguments) {
-  for (const char* arguments : {"--explain", "--explain de", "--explain en fr", "--walk", "file",
+  for (const char* arguments : {"--explain", "--explain de", "--walk", "-x", "-", "file --jobs",
                                 "--help me", "--signature 2", "--explain en --explain de", "--jobs",
                                 "--jobs 0", "--jobs -1", "--jobs 2x", "--jobs 99999"}) {
     const ToolRun run = run_tool(SUDOKU_WALK " " + std::string(arguments));
