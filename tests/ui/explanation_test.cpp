@@ -17,7 +17,7 @@
 namespace sdk::test {
 namespace {
 
-/// What the explanation was at every change that was told, and at every box.
+/// What the explanation was at every change that was told.
 class Watcher : public WindowListener {
  public:
   explicit Watcher(const MainWindow& window) : window_(window) {}
