@@ -22,8 +22,7 @@ QString told(const QString& step, std::string_view language) {
 QString with_steps_told(QString text, std::string_view language) {
   static const QRegularExpression place(R"(\{step ([\w-]+)\})");
   for (auto match = place.match(text); match.hasMatch(); match = place.match(text))
-    text.replace(match.capturedStart(), match.capturedLength(),
-                 told(match.captured(1), language));
+    text.replace(match.capturedStart(), match.capturedLength(), told(match.captured(1), language));
   return text;
 }
 

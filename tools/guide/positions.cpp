@@ -49,9 +49,8 @@ const std::vector<GuidePosition>& positions() {
        "167938542.5842.7..4.257...87.4.82.56.21.658.4586.942..679213485815647329243859617",
        Rule::bound_to_diagonal},
       {"avoidable_rectangle",
-       "avoidable_rectangle",
-       Rule::only,
        ".54762.93.635.14272.7.43.653816279546754193824293587167.823654.5321.467..46.7523.",
+       Rule::only,
        {{{5, 6}, 1, 9}, {{2, 6}, 1, 9}, {{5, 5}, 1, 9}}},
       {"naked_quad",
        "389724156465.1.2872....849353.2..864.248.69.5698.457.28.3...5.1.56.8.3.99.2...678"},
@@ -89,9 +88,11 @@ std::string name_of(const GuidePosition& position) {
 }
 
 const GuidePosition& position_named(std::string_view name) {
-  const auto found = std::ranges::find(positions(), name, name_of);
+  const auto found = std::ranges::find_if(
+      positions(), [&](const GuidePosition& position) { return name_of(position) == name; });
   if (found == positions().end())
-    throw GuideError("nobody takes a step called " + QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    throw GuideError("nobody takes a step called " +
+                     QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
   return *found;
 }
 
