@@ -64,19 +64,20 @@ std::string in_one_unit(const Words& words, const std::vector<DigitInUnit>& fact
   return words.listed(clauses);
 }
 
-std::string who_sees(const Words& words, int digit, const CellSet& targets,
+std::string who_sees(const Words& words, const Deduction& deduction, const CellSet& targets,
                      const std::function<CellSet(int)>& seen) {
   Groups<CellSet, CellSet> groups;
   for (const int target : targets) add(groups, seen(target), target);
   std::vector<std::string> clauses;
   for (const auto& [holders, who] : groups) {
-    const bool is_listed_below = groups.size() == 1 && who.count() > 3;
+    const bool is_listed_below = who.count() > 3 && who == losers(deduction);
     const std::string names = is_listed_below
                                   ? words.say({"les cases qui suivent", "the following cells"})
                                   : words.all_of(who);
     clauses.push_back(words.say(who.count() == 1 ? Text{"%1 voit %2 en %3", "%1 sees %2 in %3"}
                                                  : Text{"%1 voient %2 en %3", "%1 see %2 in %3"},
-                                names, words.a(digit), words.one_of(holders)));
+                                names, words.a(removed_digits(deduction).first()),
+                                words.one_of(holders)));
   }
   return words.listed(clauses);
 }

@@ -24,10 +24,10 @@ std::string in_their_units(const Words& words, const std::vector<DigitInUnit>& f
 /// Of one unit: "in row 2, the 5 and 7 can only go in r2c3 or r2c8; the 8 only in r2c8".
 std::string in_one_unit(const Words& words, const std::vector<DigitInUnit>& facts);
 
-/// "r4c4 sees a 5 in r1c4 or r7c6; r5c5 sees a 5 in ...": `seen` gives for each target the cells
-/// one of which is the digit. More than three targets that are told together are not named: this
-/// is followed by what is to be removed from them.
-std::string who_sees(const Words& words, int digit, const CellSet& targets,
+/// Of a deduction that removes one digit: "r4c4 sees a 5 in r1c4 or r7c6; r5c5 sees a 5 in ...".
+/// `seen` gives for each target the cells one of which is the digit. More than three targets that
+/// are told together are not named when what is to be removed, which is told next, names just them.
+std::string who_sees(const Words& words, const Deduction& deduction, const CellSet& targets,
                      const std::function<CellSet(int)>& seen);
 
 /// "To remove: 3 from r1c5 and r1c7; 8 and 9 from r1c5."

@@ -91,15 +91,12 @@ std::string sentences_of(const std::vector<std::string>& texts) {
 
 std::string tell_trap(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
-  CellSet rest = losers(deduction);
   std::vector<std::string> texts;
   for (const Chain& chain : chains_of(deduction)) {
     const Colours colours = colours_of(deduction, chain);
-    const CellSet targets = trapped(colours, rest);
-    rest = rest - targets;
     texts.push_back(words.say({"%1 Dans les deux cas, %2.", "%1 Either way %2."},
                               two_colours(words, chain, colours),
-                              who_sees(words, deduction.digits.first(), targets,
+                              who_sees(words, deduction, trapped(colours, losers(deduction)),
                                        [&](int target) { return seen_of_both(colours, target); })));
   }
   return sentences_of(texts);

@@ -46,11 +46,10 @@ std::string tell_shared_digit(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
   const CellSet& roof = deduction.cells_as(Role::roof);
   const int digit = removed_digits(deduction).first();
-  return words.say(
-      {"%1. Si ni %2 n'était %3, %4. %5 %6.", "%1. If neither %2 were %3, %4. %5 %6."},
-      cells_told(words, deduction), words.none_of(roof), digit, told_swap(words, deduction),
-      therefore(words, deduction),
-      who_sees(words, digit, losers(deduction), [&](int) { return roof; }));
+  return words.say({"%1. Si ni %2 n'était %3, %4. %5 %6.", "%1. If neither %2 were %3, %4. %5 %6."},
+                   cells_told(words, deduction), words.none_of(roof), digit,
+                   told_swap(words, deduction), therefore(words, deduction),
+                   who_sees(words, deduction, losers(deduction), [&](int) { return roof; }));
 }
 
 std::string tell_bound_to_roof(const Words& words, const ToldStep& step) {

@@ -68,7 +68,7 @@ std::string tell_pivot_wing(const Words& words, const ToldStep& step) {
   return words.say({"%1. %2 voit les autres : %3. %4, %5.", "%1. %2 sees the others: %3. %4 %5."},
                    can_only_be(words, premises_of<CellHolds>(deduction)), wing.pivot,
                    consequences(words, wing), words.say(any_case),
-                   who_sees(words, wing.digit, losers(deduction),
+                   who_sees(words, deduction, losers(deduction),
                             [&](int target) { return wing.seen_by(target); }));
 }
 

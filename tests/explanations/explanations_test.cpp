@@ -170,6 +170,25 @@ TEST_F(Explanations, AColourThatSeesItself) {
             "colour is false. To remove: 4 from r1c1, r2c2 and r6c5.");
 }
 
+TEST_F(Explanations, PartsOfAColouringThatNothingJoinsAreToldOneByOne) {
+  hold({{{1, 1}, {4}},
+        {{1, 3}, {4}},
+        {{5, 3}, {4}},
+        {{5, 7}, {4}},
+        {{8, 7}, {4}},
+        {{8, 9}, {4}},
+        {{2, 2}, {4}},
+        {{9, 8}, {4}}});
+  fire(technique_named("simple_colouring"));
+  EXPECT_EQ(
+      english(),
+      "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c3. So it stands in every "
+      "cell of one colour and none of the other: either r1c1, or r1c3. Either way r2c2 sees a "
+      "4 in r1c1 or r1c3. In row 8, the 4 can only go in r8c7 or r8c9. So it stands in every "
+      "cell of one colour and none of the other: either r8c7, or r8c9. Either way r9c8 sees a "
+      "4 in r8c7 or r8c9. To remove: 4 from r2c2 and r9c8.");
+}
+
 TEST_F(Explanations, DigitsThatLeaveTheSameCellsAreToldTogether) {
   hold({{{2, 1}, {3, 8}}, {{2, 7}, {3, 8}}, {{2, 8}, {3, 5, 8}}, {{2, 9}, {3, 8, 9}}});
   fire(technique_named("naked_pair"));

@@ -75,6 +75,13 @@ void judge_fins(ToldCase& told) {
   }
 }
 
+/// What is denied leads to one of the cells that are seen.
+void judge_denials(ToldCase& told) {
+  for (const auto& [cells, digit] : told.claims.denials)
+    for (const Sight& sight : told.claims.sights)
+      told.expect(sight.holders == cells && sight.digit == digit, "another denial");
+}
+
 /// The cells that links from one colour to the other join to the cell.
 CellSet joined_to(int cell, const Colours& colours, const std::vector<DigitInUnit>& links) {
   CellSet joined{cell};
@@ -120,6 +127,7 @@ void judge_reasons(ToldCase& told) {
   judge_consequences(told);
   judge_fish(told);
   judge_fins(told);
+  judge_denials(told);
   judge_colours(told);
   judge_clash(told);
 }

@@ -87,14 +87,14 @@ bool is_well_set(const std::string& sentence, std::string_view language) {
   return !std::regex_search(sentence, language == "Fr" ? badly_set : badly_set_in_english);
 }
 
-/// The chains of a colouring and the lists of what is removed are as long as they are; what is said
-/// of doubts does not count.
-bool is_short(const Event& event, const std::string& sentence) {
+/// The chains of a colouring and many pincers are as long as they are, and so is the list of what
+/// is removed; what is said of doubts does not count.
+bool is_short(const Deduction& deduction, const std::string& sentence) {
   static const std::regex uncounted(
       " (To remove|À retirer).*| \\((not certain|pas certain)[^)]*\\)");
-  const bool is_colouring =
-      event.deduction.technique && event.deduction.technique->id == "simple_colouring";
-  return is_colouring || length_of(std::regex_replace(sentence, uncounted, "")) <= 300;
+  return !deduction.cells_as(Role::first_colour).empty() ||
+         deduction.cells_as(Role::pincer).count() > 2 ||
+         length_of(std::regex_replace(sentence, uncounted, "")) <= 300;
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ std::vector<std::string> faults(const std::deque<Event>& hint, std::size_t index
   judge_doubts(told);
   told.expect(claims.removed == told.deduction().removed, "other removals");
   told.expect(is_well_set(sentence, language), "badly set");
-  told.expect(is_short(hint[index], sentence), "too long");
+  told.expect(is_short(hint[index].deduction, sentence), "too long");
   return told.faults;
 }
 

@@ -160,6 +160,9 @@ class Reader {
     });
   }
   void read_rectangles_and_colours() {
+    each(turns_.neither, [&](const Match& match) {
+      claims_.denials.push_back({cells_in(match[1]), std::stoi(match[2])});
+    });
     each(turns_.corner, [&](const Match& match) { claims_.corner = cells_in(match[1]); });
     each(turns_.swapped, [&](const Match& match) { claims_.swapped = digits_in(match[1]); });
     each(turns_.ruled_out, [&](const Match& match) { claims_.ruled_out = digits_in(match[1]); });

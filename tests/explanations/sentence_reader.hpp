@@ -56,6 +56,12 @@ struct FinsOr {
   CellSet target;
 };
 
+/// "If neither r4c5 nor r7c4 were 5".
+struct Denial {
+  CellSet cells;
+  int digit;
+};
+
 struct Claims {
   CellSet named;  ///< every cell of the sentence
   std::vector<Unit> named_units;
@@ -72,8 +78,9 @@ struct Claims {
   CellSet clash;  ///< two of one colour
   std::vector<Chained> chained;
   std::vector<FinsOr> fins;
-  NineSet covers;     ///< lines that have their digit on others
-  CellSet corner;     ///< that would make a rectangle
+  NineSet covers;  ///< lines that have their digit on others
+  CellSet corner;  ///< that would make a rectangle
+  std::vector<Denial> denials;
   NineSet swapped;    ///< that could be swapped in the four corners
   NineSet ruled_out;  ///< that the corners are only supposed not to hold
   int rests_on = 0;   ///< the step that is not certain

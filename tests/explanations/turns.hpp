@@ -18,7 +18,7 @@ struct Turns {
   const char *if_it_is, *makes;                ///< digit, cells, digit; cell, cells, digit
   const char *colours, *clash;                 ///< cells, cells; cells
   const char *so_is, *covers, *fins;           ///< cell, cell; lines; cells, lines, cell
-  const char* corner;                          ///< cells
+  const char *corner, *neither;                ///< cells; cells, digit
   const char *swapped, *ruled_out;             ///< digits
   const char *rests_on, *not_here;             ///< step; nothing
   const char *removal, *removed;               ///< all of it; digits, cells
@@ -52,6 +52,7 @@ inline constexpr Turns english{
         "If (.*) is (?:not )?\\d, (?:row|column)s (@D) have one of these \\ds each; if (?:it|one) "
         "is, (@C) sees it",
     .corner = "If (@C) were @D too",
+    .neither = "If neither (.*) were (\\d),",
     .swapped = "the (@D) could be swapped in the four corners",
     .ruled_out = "would hold just (@D), which the technique rules out",
     .rests_on = " \\(not certain: rests on step (\\d+)\\)$",
@@ -89,6 +90,7 @@ inline constexpr Turns french{
         "(?:ligne|colonne)s ; sinon "
         "(@C) la voit",
     .corner = "Si (@C) était @D aussi",
+    .neither = "Si ni (.*) n'était (\\d),",
     .swapped = "on pourrait échanger les (@D) aux quatre coins",
     .ruled_out = "n'auraient que (@D), ce que la technique exclut",
     .rests_on = " \\(pas certain : s'appuie sur l'étape (\\d+)\\)$",
