@@ -34,7 +34,7 @@ void visit_techniques(const std::string& puzzle, const StepVisitor& visit) {
 
 void visit_techniques(const StepVisitor& visit) {
   test::PuzzleGenerator generator(5);
-  for (int grid = 0; grid < 20; ++grid)
+  for (int grid = 0; grid < 12; ++grid)
     for (const std::string& puzzle : generator.next()) visit_techniques(puzzle, visit);
 }
 
