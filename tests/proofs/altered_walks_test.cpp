@@ -60,5 +60,13 @@ TEST(AlteredWalks, APremiseMoreIsNoticed) {
   });
 }
 
+// Two traps and a wrap, each with chains that the others make needless.
+TEST(Walks, NothingRestsOnANeedlessChainOfColouring) {
+  for (const char* puzzle :
+       {".4......6...93.....26...1.....7....8..8....3........97837.5...15...679...6...1...",
+        "....4.29...5..2..74..1....59...36.7...2..7....87...5...7.2...5..4.9.......3...8.."})
+    visit_techniques(puzzle, [](const json&, const ProofChecker&) {});
+}
+
 }  // namespace
 }  // namespace sdk::proofs
