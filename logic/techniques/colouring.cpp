@@ -83,17 +83,42 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
 
 namespace {
 
+/// The cells of the colour that chains among the coloured cells join to this one.
+CellSet joined_to(int cell, const Position& position, const ColourTable& colours, int colour,
+                  int digit) {
+  CellSet joined;
+  for (const int other : colours.cells(colour))
+    if (!chain_between(position.links.strong, colours, other, {cell}, digit).empty())
+      joined.insert(other);
+  return joined;
+}
+
+/// A cell of its colour that the clashing one sees is joined to it, so the other colour holds the
+/// digit; and each of the colour sees a joined cell of the other.
+bool wraps_all(int clashing, const Position& position, const ColourTable& colours, int digit) {
+  const int colour = colours(clashing);
+  if (!sees_one_of(clashing, joined_to(clashing, position, colours, colour, digit))) return false;
+  const CellSet holding = joined_to(clashing, position, colours, -colour, digit);
+  for (const int loser : colours.cells(colour))
+    if (!sees_one_of(loser, holding)) return false;
+  return true;
+}
+
 /// One of the cells that clash joins all of their colour. Unlike the trap, the wrap gives no marks
 /// of its own: the display of the colours shows it.
 Deduction deduce_wrap(const Position& position, const ColourTable& colours, int clashing,
                       int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
+  const CellSet& losers = colours.cells(colours(clashing));
   CellSet used;
-  for (const int number : colours.cells(colours(clashing))) {
+  for (const int number : losers) {
     used |= chain_between(position.links.strong, colours, number, {clashing}, digit);
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
     draft.eliminate(cell_at(number), {digit});
   }
+  used = losers | needed_of(used - losers, [&](const CellSet& some) {
+           return wraps_all(clashing, position, colours.within(some | losers), digit);
+         });
   rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }

@@ -101,18 +101,24 @@ class Alterer {
         if (!before_.can_hold(cell, digit)) add_removal(cell, digit);
   }
 
-  /// No premise speaks of these cells, nor of these digits, so none excludes them there.
+  /// No premise speaks of these cells, nor of these digits, so none excludes them there. One digit
+  /// a cell.
   void add_unfounded_removals() {
     const std::string premises = step_["premises"].dump();
+    const std::set<int> told = told_digits();
+    for (int cell = 0; cell < cell_count; ++cell) {
+      int digit = 1;
+      while (digit <= 9 && (told.contains(digit) || !before_.can_hold(cell, digit))) ++digit;
+      if (digit <= 9 && premises.find(name_of(cell)) == premises.npos) add_removal(cell, digit);
+    }
+  }
+
+  std::set<int> told_digits() const {
     std::set<int> digits;
     for (const json& premise : step_["premises"])
       for (const char* key : {"digits", "digit", "unique"})
         if (premise.contains(key)) collect(premise[key], digits);
-    for (int cell = 0; cell < cell_count; ++cell)
-      for (int digit = 1; digit <= 9; ++digit)
-        if (before_.can_hold(cell, digit) && !digits.contains(digit) &&
-            premises.find(name_of(cell)) == premises.npos)
-          add_removal(cell, digit);
+    return digits;
   }
 
   static void collect(const json& numbers, std::set<int>& digits) {

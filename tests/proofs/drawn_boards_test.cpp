@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <stdexcept>
 
@@ -53,6 +54,8 @@ struct BoardStep {
   std::string fault_of(const nlohmann::json& other) const {
     return ProofChecker(grid, Setting::drawn_board).fault(other);
   }
+  /// As in a walk, where no premise may be left out.
+  std::string fault_in_walk() const { return ProofChecker(grid, Setting::walk).fault(step); }
 };
 
 BoardStep step_on(const BoardFile& file, const BoardCase& board) {
@@ -79,6 +82,15 @@ TEST(BoardProofs, EveryTechniqueHasABoard) {
 TEST(BoardProofs, EveryStepOnADrawnBoardIsProved) {
   for (const BoardStep& board : all_steps())
     EXPECT_EQ(board.fault_of(board.step), "") << board.name << ": " << board.step;
+}
+
+TEST(BoardProofs, APincerThatAnotherMakesNeedlessIsNoPremise) {
+  const std::vector<BoardStep> steps = all_steps();
+  const auto board =
+      std::ranges::find(steps, "xy_wing.a_pincer_that_another_makes_needless", &BoardStep::name);
+  ASSERT_NE(board, steps.end());
+  EXPECT_EQ(board->step["premises"].size(), 3u) << board->step;
+  EXPECT_EQ(board->fault_in_walk(), "") << board->step;
 }
 
 TEST(BoardProofs, AStepMadeWrongIsNoticed) {
