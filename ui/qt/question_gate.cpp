@@ -15,36 +15,35 @@ namespace sdk {
 namespace {
 
 /// What a player does to a widget, or hears from it about what could be done.
+constexpr QEvent::Type input_types[] = {QEvent::KeyPress,
+                                        QEvent::KeyRelease,
+                                        QEvent::ShortcutOverride,
+                                        QEvent::Shortcut,
+                                        QEvent::InputMethod,
+                                        QEvent::MouseButtonPress,
+                                        QEvent::MouseButtonRelease,
+                                        QEvent::MouseButtonDblClick,
+                                        QEvent::MouseMove,
+                                        QEvent::Wheel,
+                                        QEvent::ContextMenu,
+                                        QEvent::Enter,
+                                        QEvent::HoverEnter,
+                                        QEvent::HoverMove,
+                                        QEvent::ToolTip,
+                                        QEvent::WhatsThis,
+                                        QEvent::TouchBegin,
+                                        QEvent::TouchUpdate,
+                                        QEvent::TouchEnd,
+                                        QEvent::TabletPress,
+                                        QEvent::TabletMove,
+                                        QEvent::TabletRelease,
+                                        QEvent::NativeGesture,
+                                        QEvent::DragEnter,
+                                        QEvent::DragMove,
+                                        QEvent::Drop};
+
 bool is_input(QEvent::Type type) {
-  static constexpr QEvent::Type types[] = {
-      QEvent::KeyPress,
-      QEvent::KeyRelease,
-      QEvent::ShortcutOverride,
-      QEvent::Shortcut,
-      QEvent::InputMethod,
-      QEvent::MouseButtonPress,
-      QEvent::MouseButtonRelease,
-      QEvent::MouseButtonDblClick,
-      QEvent::MouseMove,
-      QEvent::Wheel,
-      QEvent::ContextMenu,
-      QEvent::Enter,
-      QEvent::HoverEnter,
-      QEvent::HoverMove,
-      QEvent::ToolTip,
-      QEvent::WhatsThis,
-      QEvent::TouchBegin,
-      QEvent::TouchUpdate,
-      QEvent::TouchEnd,
-      QEvent::TabletPress,
-      QEvent::TabletMove,
-      QEvent::TabletRelease,
-      QEvent::NativeGesture,
-      QEvent::DragEnter,
-      QEvent::DragMove,
-      QEvent::Drop,
-  };
-  return std::ranges::find(types, type) != std::end(types);
+  return std::ranges::find(input_types, type) != std::end(input_types);
 }
 
 /// The widgets of `part` that Tab reaches.

@@ -4,7 +4,9 @@
 #include "ui/qt/sentence_delegate.hpp"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace sdk {
 
@@ -60,6 +62,15 @@ QSize SentenceDelegate::sizeHint(const QStyleOptionViewItem& option,
   const QRect text =
       option.fontMetrics.boundingRect(room, Qt::AlignLeft | Qt::TextWordWrap, Sentence(index).text);
   return {width, text.height() + 2 * row_margin};
+}
+
+bool SentenceDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                 const QStyleOptionViewItem&, const QModelIndex& index) {
+  const bool too_long = view->visualRect(index).height() > view->viewport()->height();
+  // Only a rich text is wrapped.
+  const QString text = "<qt>" + index.data().toString().toHtmlEscaped() + "</qt>";
+  QToolTip::showText(event->globalPos(), too_long ? text : QString(), view);
+  return true;
 }
 
 }  // namespace sdk

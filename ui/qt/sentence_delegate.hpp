@@ -17,6 +17,9 @@ class SentenceDelegate : public QAbstractItemDelegate {
              const QModelIndex& index) const override;
   /// As wide as the list's viewport, and as high as the text is then.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  /// The mouse over a sentence that is too long for the list is told the whole.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
 };
 
 }  // namespace sdk

@@ -4,6 +4,7 @@
 #include "ui/qt/step_list.hpp"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -91,6 +92,15 @@ void StepList::keyPressEvent(QKeyEvent* event) {
     default:
       event->ignore();
   }
+}
+
+/// The style shows the keyboard focus on a chosen row alone, and there may be none.
+void StepList::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void StepList::resizeEvent(QResizeEvent* event) {

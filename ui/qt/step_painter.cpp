@@ -47,10 +47,10 @@ QColor back_of(const PictureCell& cell) {
 
 /// Struck out from the lower left to the upper right, so that no digit is taken for another one.
 void strike(QPainter& painter, const QRect& place) {
-  constexpr QPoint reach(6, -5);
+  const QPointF reach(7, -4.5);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(Qt::black, 1.6));
+  painter.setPen(QPen(Qt::black, 1.2));
   const QPointF middle = QRectF(place).center();
   painter.drawLine(middle - reach, middle + reach);
   painter.restore();

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
@@ -135,6 +136,12 @@ class ExplanationTest : public QObject {
     QCOMPARE(chosen(), Step(1));
   }
 
+  void the_mouse_over_a_sentence_that_is_too_long_is_told_the_whole() {
+    hint();
+    QVERIFY(help_for(1).isEmpty());
+    QVERIFY(help_for(0).contains("Coloriage simple"));
+  }
+
   void a_larger_font_is_wrapped_as_well() {
     QFont font = list().font();
     font.setPointSize(font.pointSize() * 2);
@@ -188,6 +195,14 @@ class ExplanationTest : public QObject {
       play_->press(Qt::Key_Tab);
       QCOMPARE(QApplication::focusWidget()->objectName(), name);
     }
+  }
+
+  void the_list_shows_that_it_has_the_focus() {
+    hint();
+    const QImage before = list().grab().toImage();
+    list().setFocus();
+    play_->settle();
+    QVERIFY(list().grab().toImage() != before);
   }
 
   void digits_typed_in_the_list_change_no_cell() {
@@ -284,6 +299,13 @@ class ExplanationTest : public QObject {
   void click_row(int number) {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(number).center());
     play_->settle();
+  }
+  QString help_for(int number) {
+    list().scrollTo(list().model()->index(number, 0));
+    const QPoint place = row(number).topLeft() + QPoint(5, 5);
+    QHelpEvent event(QEvent::ToolTip, place, list().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(list().viewport(), &event);
+    return QToolTip::text();
   }
   void click_button(const char* name) {
     QTest::mouseClick(&play_->find(name), Qt::LeftButton);

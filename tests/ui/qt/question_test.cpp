@@ -229,6 +229,15 @@ class QuestionTest : public QObject {
     });
   }
 
+  void without_the_candidates_only_marked_cells_of_the_puzzle_speak_the_step() {
+    play_->click("Check2");
+    ask([this] {
+      click("next_step");
+      QCOMPARE(spoken("MSF", 6, 7), "ligne 6, colonne 7: 5 8, perd 5");
+      QCOMPARE(spoken("MSF", 6, 4), "ligne 6, colonne 4: vide");
+    });
+  }
+
   void the_box_hides_neither_the_steps_nor_the_candidates() {
     ask([this] {
       const QRect place = box().frameGeometry();
