@@ -14,15 +14,12 @@
 
 namespace sdk {
 
-/// One sentence or two about what a technique found: its usual name, the cells and digits of the
-/// pattern, what is removed or placed and why. UTF-8; French for exactly "Fr", English for anything
-/// else. Throws std::out_of_range for a deduction that no technique makes.
-std::string explain(const Deduction& deduction, std::string_view language);
-
-/// The same about an event of a run, its end included.
-std::string explain(const Event& event, std::string_view language);
-
-/// The same about all events of one run, a text each in their order.
+/// A text for each event of a hint, in their order, its end included: the technique's name, what
+/// the step rests on, how that leads to the conclusion, and what is removed. All that is told of
+/// the candidates is true of them before the step. A text that names another step counts from 1;
+/// the texts have no number of their own. A step that is not certain says so, and why. UTF-8;
+/// French for exactly "Fr", English for anything else. Throws std::out_of_range for a deduction
+/// that no technique makes.
 std::vector<std::string> explain(const std::deque<Event>& hint, std::string_view language);
 
 }  // namespace sdk

@@ -132,7 +132,7 @@ class Artist {
   void draw_pincers(int pivot) {
     const NineSet removed = removed_digits(step_);
     for (const int pincer : cells_as(Role::pincer))
-      for (const int digit : (candidates(pivot) & candidates(pincer)) - removed)
+      for (const int digit : (at(pivot).pattern & at(pincer).pattern) - removed)
         draw_link(pivot, pincer, digit);
   }
   void draw_strong_link(const DigitInUnit& fact) {

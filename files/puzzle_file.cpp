@@ -3,12 +3,9 @@
 
 #include "files/puzzle_file.hpp"
 
-#include <cerrno>
-#include <fstream>
-#include <optional>
-#include <system_error>
 #include <utility>
 
+#include "files/text/file_grid.hpp"
 #include "files/text/puzzle_file_text.hpp"
 #include "game/window.hpp"
 #include "screen/errors.hpp"
@@ -24,30 +21,10 @@ std::string displayed_grid() {
 
 namespace {
 
-/// More than any puzzle file holds; keeps an endless device from filling the memory.
-constexpr std::size_t largest_file = 16 << 20;
-
-[[noreturn]] void fail(const std::string& name, int error) {
-  throw RuntimeError(name, std::generic_category().message(error));
-}
-
-std::string content(const std::string& name) {
-  errno = 0;
-  std::ifstream file(name, std::ios::binary);
-  if (!file) fail(name, errno);
-  std::string bytes;
-  for (char chunk[4096]; file.read(chunk, sizeof chunk), file.gcount() > 0;) {
-    bytes.append(chunk, static_cast<std::size_t>(file.gcount()));
-    if (bytes.size() > largest_file) fail(name, EFBIG);
-  }
-  if (file.bad()) fail(name, errno);
-  return bytes;
-}
-
 std::string grid_in(const std::string& name) {
-  std::optional<std::string> grid = grid_of_file(content(name));
-  if (!grid) throw RuntimeError(name, "the file is empty");
-  return *std::move(grid);
+  FileGrid read = grid_in_file(name);
+  if (!read.failure.empty()) throw RuntimeError(name, read.failure);
+  return std::move(read.cells);
 }
 
 }  // namespace

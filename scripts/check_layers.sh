@@ -23,7 +23,7 @@ ui: ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations
 ui/qt: ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
 tools: tools ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
 tools/guide: tools/guide ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
-tools/walk: tools/walk puzzles/stock explanations logic board
+tools/walk: tools/walk puzzles/stock files/text explanations logic board
 tools/zolv: tools/zolv
 '
 

@@ -13,6 +13,7 @@
 #include "logic/draft.hpp"
 #include "logic/techniques/chains.hpp"
 #include "logic/techniques/finders.hpp"
+#include "logic/techniques/needed.hpp"
 
 namespace sdk {
 
@@ -44,6 +45,25 @@ CellSet chain_seen_from(int cell, const Position& position, const ColourTable& c
 
 bool sees_one_of(int cell, const CellSet& cells) { return !(peers_of(cell) & cells).empty(); }
 
+/// The cell sees both ends of a chain among the coloured ones.
+bool is_trapped(int cell, const Position& position, const ColourTable& colours, int digit) {
+  const CellSet goals = colours.cells(-1) & peers_of(cell);
+  for (const int first : colours.cells(1) & peers_of(cell))
+    if (!chain_between(position.links.strong, colours, first, goals, digit).empty()) return true;
+  return false;
+}
+
+/// As few of the cells as still trap all that lose the digit.
+CellSet needed_to_trap(const CellSet& losers, const CellSet& cells, const Position& position,
+                       const ColourTable& colours, int digit) {
+  return needed_of(cells, [&](const CellSet& some) {
+    const ColourTable part = colours.within(some);
+    for (const int loser : losers)
+      if (!is_trapped(loser, position, part, digit)) return false;
+    return true;
+  });
+}
+
 }  // namespace
 
 std::optional<Deduction> find_trap(const Position& position, const ColourTable& colours,
@@ -56,23 +76,49 @@ std::optional<Deduction> find_trap(const Position& position, const ColourTable& 
       used |= chain_seen_from(cell, position, colours, digit);
     }
   if (!draft.deduction.removes_something()) return std::nullopt;
+  used = needed_to_trap(draft.deduction.losers_of(digit), used, position, colours, digit);
   rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }
 
 namespace {
 
+/// The cells of the colour that chains among the coloured cells join to this one.
+CellSet joined_to(int cell, const Position& position, const ColourTable& colours, int colour,
+                  int digit) {
+  CellSet joined;
+  for (const int other : colours.cells(colour))
+    if (!chain_between(position.links.strong, colours, other, {cell}, digit).empty())
+      joined.insert(other);
+  return joined;
+}
+
+/// A cell of its colour that the clashing one sees is joined to it, so the other colour holds the
+/// digit; and each of the colour sees a joined cell of the other.
+bool wraps_all(int clashing, const Position& position, const ColourTable& colours, int digit) {
+  const int colour = colours(clashing);
+  if (!sees_one_of(clashing, joined_to(clashing, position, colours, colour, digit))) return false;
+  const CellSet holding = joined_to(clashing, position, colours, -colour, digit);
+  for (const int loser : colours.cells(colour))
+    if (!sees_one_of(loser, holding)) return false;
+  return true;
+}
+
 /// One of the cells that clash joins all of their colour. Unlike the trap, the wrap gives no marks
 /// of its own: the display of the colours shows it.
 Deduction deduce_wrap(const Position& position, const ColourTable& colours, int clashing,
                       int digit) {
   Draft draft = begin_draft(position, colours, digit, Rule::wrap);
+  const CellSet& losers = colours.cells(colours(clashing));
   CellSet used;
-  for (const int number : colours.cells(colours(clashing))) {
+  for (const int number : losers) {
     used |= chain_between(position.links.strong, colours, number, {clashing}, digit);
     draft.show(cell_at(number), std::nullopt, {digit}, Emphasis::removed);
     draft.eliminate(cell_at(number), {digit});
   }
+  used = losers | needed_of(used - losers, [&](const CellSet& some) {
+           return wraps_all(clashing, position, colours.within(some | losers), digit);
+         });
   rest_on_links(draft, position, used, digit);
   return std::move(draft).finished();
 }

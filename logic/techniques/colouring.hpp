@@ -20,6 +20,12 @@ class ColourTable {
   /// `colour` is 1 or -1; the cell must be uncoloured.
   void paint(int cell, int colour) { cells_[colour == 1 ? 0 : 1].insert(cell); }
   const CellSet& cells(int colour) const { return cells_[colour == 1 ? 0 : 1]; }
+  /// The colours of these cells alone.
+  ColourTable within(const CellSet& cells) const {
+    ColourTable part;
+    part.cells_ = {cells_[0] & cells, cells_[1] & cells};
+    return part;
+  }
   CellSet coloured() const { return cells_[0] | cells_[1]; }
   bool operator==(const ColourTable&) const = default;
 

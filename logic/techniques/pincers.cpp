@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "logic/draft.hpp"
+#include "logic/techniques/needed.hpp"
 
 namespace sdk {
 
@@ -28,13 +29,12 @@ bool reach_all(const PivotWing& wing, const CellSet& pincers, const CellSet& tar
 
 /// The deduction rests on the pivot, and on as few pincers as all targets need.
 void rest_on_used(Draft& draft, const PivotWing& wing) {
-  CellSet pincers = draft.deduction.cells_as(Role::pincer);
-  for (const int pincer : draft.deduction.cells_as(Role::pincer)) {
-    const CellSet others = pincers - CellSet{pincer};
-    if (reach_all(wing, others, draft.deduction.losers_of(wing.digit))) pincers = others;
-  }
+  const CellSet& targets = draft.deduction.losers_of(wing.digit);
   draft.rest_on(wing.pivot);
-  for (const int pincer : pincers) draft.rest_on(cell_at(pincer));
+  for (const int pincer :
+       needed_of(draft.deduction.cells_as(Role::pincer),
+                 [&](const CellSet& some) { return reach_all(wing, some, targets); }))
+    draft.rest_on(cell_at(pincer));
 }
 
 void clear_target(Draft& draft, const PivotWing& wing, Cell pincer_a, Cell pincer_b, Cell target) {

@@ -4,6 +4,7 @@
 #include "tests/proofs/proof_checker.hpp"
 
 #include <algorithm>
+#include <set>
 
 #include "tests/proofs/implication.hpp"
 #include "tests/proofs/shape.hpp"
@@ -60,6 +61,12 @@ bool follows(const Premises& premises, const OfferStep& step) {
   return is_forced(premises, step.placed);
 }
 
+/// Whether the premise names the cell as a place of its digit.
+bool speaks_of(const Premise& premise, int cell) {
+  const auto* const unit = std::get_if<UnitPremise>(&premise);
+  return unit != nullptr && std::ranges::find(unit->cells, cell) != unit->cells.end();
+}
+
 template <class AnyStep>
 std::string superfluous_premise(const AnyStep& step) {
   for (std::size_t i = 0; i < step.premises.size(); ++i) {
@@ -67,6 +74,22 @@ std::string superfluous_premise(const AnyStep& step) {
     Premises fewer = step.premises;
     fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
     if (follows(fewer, step)) return "superfluous: " + text_of(step.premises[i]);
+  }
+  return "";
+}
+
+/// A cell that could be left out with all its links, other than one that loses the digit: colouring
+/// lists all the links that join the cells it uses, so none of them alone is too many.
+std::string superfluous_chain_cell(const TechniqueStep& step) {
+  std::set<int> cells;
+  for (const Premise& premise : step.premises)
+    if (const auto* const unit = std::get_if<UnitPremise>(&premise))
+      cells.insert(unit->cells.begin(), unit->cells.end());
+  for (const CellDigit& removed : step.removed) cells.erase(removed.cell);
+  for (const int cell : cells) {
+    Premises fewer = step.premises;
+    std::erase_if(fewer, [&](const Premise& premise) { return speaks_of(premise, cell); });
+    if (follows(fewer, step)) return "superfluous: the links of " + name_of(cell);
   }
   return "";
 }
@@ -137,7 +160,10 @@ std::string ProofChecker::proof_fault(const TechniqueStep& step) const {
   if (step.name == "avoidable_rectangle" || has_loose_rectangle(step)) return "";
   if (const CellDigit* const candidate = first_not_excluded(step.premises, step.removed))
     return "does not follow: " + text_of(*candidate) + " is possible";
-  return setting_ == Setting::walk ? superfluous_premise(step) : "";
+  if (setting_ == Setting::drawn_board) return "";
+  const std::string superfluous = superfluous_premise(step);
+  const bool is_chain = superfluous.empty() && step.name == "simple_colouring";
+  return is_chain ? superfluous_chain_cell(step) : superfluous;
 }
 
 std::string ProofChecker::fault_of(const OfferStep& step) const {

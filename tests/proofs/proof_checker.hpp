@@ -31,6 +31,8 @@ class ProofChecker {
   std::string fault(const nlohmann::json& step);
   std::string fault(const Step& step);
 
+  /// The candidates as they stand before the next step.
+  const PlainGrid& grid() const { return grid_; }
   /// Whether an end has come.
   bool is_over() const { return is_over_; }
 

@@ -138,7 +138,8 @@ TEST(Proofs, ASuperfluousPremiseIsNoticed) {
     json step = right;
     step["premises"].push_back(cell_premise("r8c8", {1, 2, 3, 4, 5, 6, 7, 8, 9}));
     const bool is_offer = right["step"] == "offer";
-    EXPECT_FAULT(fault(step, right), is_offer ? "a " : "superfluous");
+    const bool is_rectangle = !is_offer && right["name"] == "unique_rectangle";
+    EXPECT_FAULT(fault(step, right), is_offer ? "a " : is_rectangle ? "rule " : "superfluous");
   }
 }
 
@@ -149,6 +150,8 @@ TEST(Proofs, ASuperfluousUnitIsNoticedButInFishAndColouring) {
   json colours = right_step("simple_colouring", 1);
   colours["premises"].push_back(unit_premise("column 2", 5, {"r3c2", "r6c2"}));
   colours["removed"].erase(1);
+  EXPECT_EQ(fault(colours, colours), "superfluous: the links of r3c2");
+  colours["removed"].push_back({{"cell", "r3c7"}, {"digit", 5}});
   EXPECT_EQ(fault(colours, colours), "");
   colours["premises"].push_back(cell_premise("r8c8", {1, 2}));
   EXPECT_FAULT(fault(colours, colours), "superfluous");
@@ -225,16 +228,39 @@ TEST(Proofs, ALinkInTwoUnitsNamesOneOfThem) {
 TEST(Proofs, RulesOfRectanglesListTheirLines) {
   const json rule1 = right_step("unique_rectangle", 1);
   EXPECT_EQ(fault(with_name(rule1, "unique_rectangle", 9, 3), rule1),
-            "rule 3 of unique rectangles lists one line");
+            "rule 3 of unique rectangles lists lines: 1, corners: 2, of two digits: 2");
   EXPECT_EQ(fault(with_name(rule1, "unique_rectangle", 9, 5), rule1),
-            "rule 5 of unique rectangles lists two lines");
+            "rule 5 of unique rectangles lists lines: 2, corners: 2, of two digits: 2");
   const json rule3 = right_step("unique_rectangle", 3), rule5 = right_step("unique_rectangle", 5);
   EXPECT_EQ(fault(with_name(rule3, "unique_rectangle", 9, 5), rule3),
-            "rule 5 of unique rectangles lists two lines");
+            "rule 5 of unique rectangles lists lines: 2, corners: 2, of two digits: 2");
   EXPECT_EQ(fault(with_name(rule5, "unique_rectangle", 9, 3), rule5),
-            "rule 3 of unique rectangles lists one line");
+            "rule 3 of unique rectangles lists lines: 1, corners: 2, of two digits: 2");
   EXPECT_EQ(fault(with_name(rule1, "naked_triple", 7, 0), rule1),
             "naked_triple speaks of a rectangle");
+}
+
+json with_variant(json step, int variant) {
+  step["variant"] = variant;
+  return step;
+}
+
+TEST(Proofs, RulesOfATechniqueAreToldApart) {
+  const auto told_as = [](const char* name, int rule, int other) {
+    const json right = right_step(name, rule);
+    return fault(with_variant(right, other), right);
+  };
+  for (int rule = 1; rule <= 5; ++rule)
+    for (int other = 1; other <= 5; ++other)
+      if (other != rule) {
+        EXPECT_FAULT(told_as("unique_rectangle", rule, other), "rule " + std::to_string(other));
+      }
+  EXPECT_EQ(told_as("finned_x_wing", 1, 2), "a fin is not told of");
+  EXPECT_EQ(told_as("finned_x_wing", 2, 1), "an X-wing without a fin is told as finned");
+  EXPECT_EQ(told_as("simple_colouring", 1, 2),
+            "a wrap of colouring removes from no cell of its links");
+  EXPECT_EQ(told_as("simple_colouring", 2, 1),
+            "a trap of colouring removes from a cell of its links");
 }
 
 TEST(Proofs, ASingleHasOnePremiseOfItsKind) {
@@ -269,7 +295,9 @@ TEST(Certainty, ALooseRectangleIsNot) {
 
 TEST(Certainty, ARectangleWithinOneBoxIsLooseAsWell) {
   json step = loose_rectangle();
-  step["premises"] = json::array({unique_premise(3, 8, {"r1c1", "r1c2", "r2c1", "r2c2"})});
+  step["premises"] = {cell_premise("r1c1", {3, 8}), cell_premise("r1c2", {3, 8}),
+                      cell_premise("r2c1", {3, 8}),
+                      unique_premise(3, 8, {"r1c1", "r1c2", "r2c1", "r2c2"})};
   EXPECT_EQ(fault(step, step), "");
   EXPECT_NE(fault(certain(step), step), "");
 }

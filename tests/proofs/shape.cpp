@@ -54,6 +54,20 @@ std::string missing_link(const std::set<Link>& links, int digit, const PlainGrid
   return "";
 }
 
+/// A trap takes the digit from cells beside the chains, a wrap from cells of them.
+std::string colouring_rule_fault(const TechniqueStep& step, const std::set<Link>& links) {
+  const auto is_linked = [&](const CellDigit& removed) {
+    return std::ranges::any_of(links, [&](const Link& link) {
+      return link[0] == removed.cell || link[1] == removed.cell;
+    });
+  };
+  if (step.variant == 1 && std::ranges::any_of(step.removed, is_linked))
+    return "a trap of colouring removes from a cell of its links";
+  if (step.variant == 2 && std::ranges::none_of(step.removed, is_linked))
+    return "a wrap of colouring removes from no cell of its links";
+  return "";
+}
+
 std::string colouring_fault(const TechniqueStep& step, const PlainGrid& before) {
   std::set<Link> links;
   const std::vector<UnitPremise> premises = all_of<UnitPremise>(step.premises);
@@ -62,15 +76,44 @@ std::string colouring_fault(const TechniqueStep& step, const PlainGrid& before) 
       return "no link of colouring: " + text_of(Premise(p));
     if (!links.insert(p.cells).second) return "two units for the link of " + text_of(p.cells);
   }
-  return links.empty() ? "colouring lists no link" : missing_link(links, premises[0].digit, before);
+  if (links.empty()) return "colouring lists no link";
+  const std::string rule = colouring_rule_fault(step, links);
+  return rule.empty() ? missing_link(links, premises[0].digit, before) : rule;
+}
+
+/// Without a fin the places on both base lines lie on two lines that cross them.
+std::string finned_fault(const TechniqueStep& step) {
+  const std::vector<UnitPremise> lines = all_of<UnitPremise>(step.premises);
+  if (lines.size() != 2) return "";  // one line was enough
+  const auto cover = lines[0].unit.starts_with("row") ? column_of : row_of;
+  std::set<int> covers;
+  for (const UnitPremise& line : lines)
+    for (const int cell : line.cells) covers.insert(cover(cell));
+  if (step.variant == 1 && covers.size() <= 2) return "an X-wing without a fin is told as finned";
+  return step.variant == 2 && covers.size() > 2 ? "a fin is not told of" : "";
+}
+
+/// What a rule of rectangles rests on: lines, corners, and how many of these hold two digits.
+struct RectangleForm {
+  std::ptrdiff_t lines, corners, of_two_digits;
+  bool operator==(const RectangleForm&) const = default;
+};
+
+RectangleForm form_of(const Premises& premises) {
+  const auto units = all_of<UnitPremise>(premises);
+  const auto cells = all_of<CellPremise>(premises);
+  return {std::ranges::count_if(units, &UnitPremise::is_line), std::ssize(cells),
+          std::ranges::count_if(cells, [](const CellPremise& p) { return p.digits.count() == 2; })};
 }
 
 std::string rectangle_fault(const TechniqueStep& step) {
-  const std::vector<UnitPremise> units = all_of<UnitPremise>(step.premises);
-  const auto lines = std::ranges::count_if(units, &UnitPremise::is_line);
-  if (step.variant == 3 && lines != 1) return "rule 3 of unique rectangles lists one line";
-  if (step.variant == 5 && lines != 2) return "rule 5 of unique rectangles lists two lines";
-  return "";
+  static constexpr RectangleForm forms[] = {{0, 3, 3}, {0, 4, 2}, {1, 2, 2}, {0, 4, 1}, {2, 2, 2}};
+  const RectangleForm& form = forms[step.variant - 1];
+  if (form_of(step.premises) == form) return "";
+  return "rule " + std::to_string(step.variant) +
+         " of unique rectangles lists lines: " + std::to_string(form.lines) +
+         ", corners: " + std::to_string(form.corners) +
+         ", of two digits: " + std::to_string(form.of_two_digits);
 }
 
 bool speaks_of_rectangles(const Premises& premises) {
@@ -96,6 +139,7 @@ std::string shape_fault(const TechniqueStep& step, const PlainGrid& before) {
   if (step.name == "avoidable_rectangle") return "";
   if (speaks_of_rectangles(step.premises)) return step.name + " speaks of a rectangle";
   if (base_lines(step.name) != 0) return fish_fault(step);
+  if (step.name == "finned_x_wing") return finned_fault(step);
   return step.name == "simple_colouring" ? colouring_fault(step, before) : "";
 }
 

@@ -26,9 +26,10 @@ QString read(const QString& name) {
 }
 
 QByteArray set(const GuideOrder& order) {
-  const Manuscript manuscript = parse_manuscript(read(order.text));
+  const QString text = read(order.text);
   Pictures pictures(order.language);
   try {
+    const Manuscript manuscript = parse_manuscript(text, order.language);
     return pdf_of(*typeset(manuscript, pictures), manuscript.title);
   } catch (const GuideError& error) {
     throw error_about(order.text, error.what());

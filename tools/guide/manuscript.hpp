@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 #include <vector>
 
 namespace sdk {
@@ -20,8 +21,10 @@ struct Manuscript {
   std::vector<Passage> passages;
 };
 
-/// Divides a text at its headings of the first three levels. `{page}` and `{version}` in it become
-/// the address of the game's web page and the program's version.
-Manuscript parse_manuscript(QString text);
+/// Divides a text at its headings of the first three levels. In it, `{page}` and `{version}` become
+/// the address of the game's web page and the program's version, and `{step NAME}` what the window
+/// says in `language` of the step in the position of that name (positions.hpp). Throws GuideError
+/// naming a step that is not there.
+Manuscript parse_manuscript(QString text, std::string_view language);
 
 }  // namespace sdk

@@ -3,15 +3,18 @@
 
 #include "tools/guide/pictures.hpp"
 
+#include <QPainter>
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
 
-#include "pas_a_pas/driver.hpp"
+#include "explanations/step_picture.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "pas_a_pas/view.hpp"
 #include "tools/guide/errors.hpp"
 #include "tools/guide/positions.hpp"
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/step_painter.hpp"
 
 namespace sdk {
 
@@ -48,14 +51,6 @@ QImage take_offer(Studio& studio) {
   return image;
 }
 
-/// What a hint starts from, with what it has forgotten where the technique needs it.
-Position start_of(const GuidePosition& position) {
-  Position start = solver.position;
-  for (const auto& [cell, smaller, larger] : position.former_pairs)
-    start.pairs(cell.row, cell.column) = {smaller, larger};
-  return start;
-}
-
 /// Shows the candidates that the event found, and its marks beside those that stand.
 void show(const Event& event) {
   solver.position = event.before;
@@ -63,32 +58,19 @@ void show(const Event& event) {
   draw(event.deduction.highlights);
 }
 
-/// Shows, step by step, the hint that comes to use the position's technique, up to that step.
+/// Shows, step by step, the hint up to the step for which the position is there.
 void show_steps(const GuidePosition& position) {
   globals.ModePasAPas = true;
-  init_candidats();
-  Run hint(start_of(position));
-  while (!hint.is_over()) {
-    const Event& event = hint.next();
-    show(event);
-    if (event.kind == EventKind::removal && event.deduction.technique->place == position.place)
-      return;
-  }
-  throw std::logic_error("no hint uses " + std::to_string(position.place));
+  for (const Event& event : steps_to(position)) show(event);
 }
 
-/// Lays the position out and takes a picture when its technique fires.
-QImage take_at(const GuidePosition& position, Studio& studio, const std::function<QImage()>& take) {
-  studio.lay_out(position.grid);
-  studio.show_candidates(true);
-  show_steps(position);
-  QImage image = take();
-  studio.show_candidates(false);
+QImage take_step(const GuidePosition& position) {
+  constexpr int side = 9 * cell_side;
+  QImage image(QSize(side, side) * picture_scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(picture_scale);
+  QPainter painter(&image);
+  paint_step(painter, {0, 0, side, side}, picture_of(steps_to(position).back()));
   return image;
-}
-
-QImage take_technique(const GuidePosition& position, Studio& studio) {
-  return take_at(position, studio, [&] { return studio.candidates(); });
 }
 
 /// The first cell of the candidates that is marked so.
@@ -102,9 +84,13 @@ QImage cell_marked(Studio& studio, Mark mark) {
 }
 
 QImage take_mark(Studio& studio, Mark mark) {
-  constexpr int xy_wing = 16;
-  const auto position = std::ranges::find(positions(), xy_wing, &GuidePosition::place);
-  return take_at(*position, studio, [&] { return cell_marked(studio, mark); });
+  const GuidePosition& position = position_named("xy_wing");
+  studio.lay_out(position.grid);
+  studio.show_candidates(true);
+  show_steps(position);
+  QImage image = cell_marked(studio, mark);
+  studio.show_candidates(false);
+  return image;
 }
 
 QImage take_given(Studio& studio, int level) {
@@ -193,18 +179,18 @@ std::vector<Pictures::Shot> Pictures::shots_of_buttons() {
   return shots;
 }
 
-std::vector<Pictures::Shot> Pictures::shots_of_techniques() {
-  constexpr double width = 52;
+std::vector<Pictures::Shot> Pictures::shots_of_steps() {
+  constexpr double width = 68;
   std::vector<Shot> shots;
   for (const GuidePosition& position : positions())
-    shots.push_back({QString("technique-%1").arg(position.place, 2, 10, QChar('0')), width,
-                     [&position](Studio& studio) { return take_technique(position, studio); }});
+    shots.push_back({"step-" + QString::fromStdString(name_of(position)), width,
+                     [&position](Studio&) { return take_step(position); }});
   return shots;
 }
 
 std::vector<Pictures::Shot> Pictures::shots() {
   std::vector<Shot> all;
-  for (auto family : {shots_of_window, shots_of_cells, shots_of_buttons, shots_of_techniques})
+  for (auto family : {shots_of_window, shots_of_cells, shots_of_buttons, shots_of_steps})
     std::ranges::move(family(), std::back_inserter(all));
   return all;
 }

@@ -39,7 +39,7 @@ class Pictures {
   static std::vector<Shot> shots_of_window();
   static std::vector<Shot> shots_of_cells();
   static std::vector<Shot> shots_of_buttons();
-  static std::vector<Shot> shots_of_techniques();
+  static std::vector<Shot> shots_of_steps();
 
   Studio studio_;
   std::vector<Shot> shots_ = shots();

@@ -95,8 +95,6 @@ QImage Studio::window() {
   return picture_of(frame_);
 }
 
-QImage Studio::candidates() { return cut_out(widget("rect2").geometry()); }
-
 QImage Studio::cell(const char* grid, int row, int column) {
   constexpr int inset = 1;  // the frame covers what the lines between the boxes leave in a cell
   const QRect square((column - 1) * cell_side, (row - 1) * cell_side, cell_side, cell_side);

@@ -53,8 +53,6 @@ class Studio {
 
   /// The whole window.
   QImage window();
-  /// The candidates with their frame.
-  QImage candidates();
   /// One cell of "MSF" or "MSR", framed.
   QImage cell(const char* grid, int row, int column);
   QImage button(const char* name) { return picture_of(widget(name)); }

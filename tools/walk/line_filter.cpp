@@ -18,21 +18,21 @@ namespace sdk {
 
 namespace {
 
-/// Lines that are processed together, so that threads seldom meet.
+/// Items that are processed together, so that threads seldom meet.
 struct Batch {
-  long index, first_line;
-  std::vector<std::string> lines;
+  long index, first_number;
+  std::vector<std::string> items;
 };
 
 constexpr std::size_t batch_size = 16;
 /// How far a thread may run ahead of what is written.
 constexpr long batches_ahead = 16;
 
-Processed process_all(const Batch& batch, const ProcessLine& process) {
+Processed process_all(const Batch& batch, const ProcessItem& process) {
   Processed all;
-  long number = batch.first_line;
-  for (const std::string& line : batch.lines) {
-    const Processed one = process(line, number++);
+  long number = batch.first_number;
+  for (const std::string& item : batch.items) {
+    const Processed one = process(item, number++);
     all.output += one.output;
     all.errors += one.errors;
     all.is_fault |= one.is_fault;
@@ -91,12 +91,15 @@ class LineReader {
   std::string failure_;
 };
 
-class LineFilter {
- public:
-  LineFilter(std::istream& in, std::ostream& out, std::ostream& errors, int threads)
-      : reader_(in), out_(out), errors_(errors), threads_(threads) {}
+/// Up to `most` of the next items, none at their end. Called by one thread at a time.
+using TakeItems = std::function<std::vector<std::string>(std::size_t most)>;
 
-  FilterEnd run(const ProcessLine& process) {
+class Filter {
+ public:
+  Filter(TakeItems take_items, std::ostream& out, std::ostream& errors, int threads)
+      : take_items_(std::move(take_items)), out_(out), errors_(errors), threads_(threads) {}
+
+  FilterEnd run(const ProcessItem& process) {
     std::vector<std::jthread> others;
     try {
       for (int n = 1; n < threads_; ++n) others.emplace_back([&] { work(process); });
@@ -105,25 +108,24 @@ class LineFilter {
     }
     work(process);
     others.clear();
-    if (end_.failure.empty()) end_.failure = reader_.failure();
     return end_;
   }
 
  private:
-  void work(const ProcessLine& process) {
+  void work(const ProcessItem& process) {
     while (const std::optional<Batch> batch = take())
       deliver(batch->index, process_all(*batch, process));
   }
 
-  /// The next lines; nothing at the end of the input.
+  /// The next items; nothing at their end.
   std::optional<Batch> take() {
     const std::scoped_lock reading(input_);
     wait_for_room();
     if (has_failed()) return std::nullopt;
-    Batch batch{taken_, lines_read_ + 1, reader_.take(batch_size)};
-    if (batch.lines.empty()) return std::nullopt;
+    Batch batch{taken_, items_taken_ + 1, take_items_(batch_size)};
+    if (batch.items.empty()) return std::nullopt;
     ++taken_;
-    lines_read_ += static_cast<long>(batch.lines.size());
+    items_taken_ += static_cast<long>(batch.items.size());
     return batch;
   }
 
@@ -156,13 +158,13 @@ class LineFilter {
     return !end_.failure.empty();
   }
 
-  LineReader reader_;
+  const TakeItems take_items_;
   std::ostream& out_;
   std::ostream& errors_;
   const int threads_;
 
-  std::mutex input_;  ///< held by the thread that reads, and guards the next two
-  long taken_ = 0, lines_read_ = 0;
+  std::mutex input_;  ///< held by the thread that takes, and guards the next two
+  long taken_ = 0, items_taken_ = 0;
 
   std::mutex output_;  ///< guards all that follows
   std::condition_variable room_;
@@ -174,8 +176,22 @@ class LineFilter {
 }  // namespace
 
 FilterEnd filter_lines(std::istream& in, std::ostream& out, std::ostream& errors, int threads,
-                       const ProcessLine& process) {
-  return LineFilter(in, out, errors, threads).run(process);
+                       const ProcessItem& process) {
+  LineReader reader(in);
+  const auto take = [&](std::size_t most) { return reader.take(most); };
+  FilterEnd end = Filter(take, out, errors, threads).run(process);
+  if (end.failure.empty()) end.failure = reader.failure();
+  return end;
+}
+
+FilterEnd filter_items(std::span<const std::string> items, std::ostream& out, std::ostream& errors,
+                       int threads, const ProcessItem& process) {
+  const auto take = [&](std::size_t most) {
+    const auto next = items.first(std::min(most, items.size()));
+    items = items.subspan(next.size());
+    return std::vector<std::string>(next.begin(), next.end());
+  };
+  return Filter(take, out, errors, threads).run(process);
 }
 
 }  // namespace sdk

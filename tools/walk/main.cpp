@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "board/grid_text.hpp"
+#include "files/text/file_grid.hpp"
 #include "tools/walk/json_walk.hpp"
 #include "tools/walk/line_filter.hpp"
 #include "tools/walk/walk.hpp"
@@ -22,15 +23,17 @@
 namespace {
 
 constexpr std::string_view usage =
-    "usage: sudoku-walk [--explain en|fr | --json] [--jobs N]\n       sudoku-walk --signature | "
-    "--help\n";
+    "usage: sudoku-walk [--explain en|fr | --json] [--jobs N] [FILE...]\n       sudoku-walk "
+    "--signature | --help\n";
 
 constexpr std::string_view help = R"(
 Plays the hint command on each puzzle, accepting every offer, until nothing more can be found, and
 prints what happened.
 
-Input: one puzzle a line, 81 characters row by row, 1-9 a digit, '.' or '0' an empty cell. Blank
-lines and lines that start with '#' are skipped.
+Input: one puzzle a line of standard input, 81 characters row by row, 1-9 a digit, '.' or '0' an
+empty cell. Blank lines and lines that start with '#' are skipped.
+FILE is a game saved by sudoku (*.sdk); with files, these are played in their order, each on all the
+digits in its grid, the player's among them, and standard input is not read.
 
 Output, for each puzzle:
   grid <81 characters>          the puzzle, '.' for an empty cell
@@ -53,39 +56,70 @@ Output, for each puzzle:
   --help            this text
 
 A line that is no puzzle gives "error line <n>: <why>" on standard error; every line counts in <n>,
-and a carriage return at a line's end is ignored. The other lines are still played, and the exit
-status is 1, as it is when the input or the output fails. A wrong option gives exit status 2.
+and a carriage return at a line's end is ignored. A file that cannot be read or is no saved game
+gives "error <file>: <why>". The other lines or files are still played, and the exit status is 1, as
+it is when the input or the output fails. A wrong option gives exit status 2.
 )";
 
 /// More threads than any machine of today has processors.
 constexpr int most_jobs = 1024;
+
+using Words = std::vector<std::string>;
 
 /// What is asked of the walks.
 struct Order {
   /// Tells the walk of a puzzle; none when it was not said how.
   std::string (*tell)(std::string_view puzzle) = nullptr;
   int jobs = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+  /// Saved games to play; none when the puzzles come on standard input.
+  Words files;
 };
+
+std::string told(std::string_view puzzle, const Order& order) {
+  return order.tell ? order.tell(puzzle) : sdk::walk(puzzle);
+}
+
+/// A fault of the line or file of that name.
+sdk::Processed fault_of(const std::string& name, const std::string& why) {
+  return {"", "error " + name + ": " + why + "\n", true};
+}
 
 bool is_skipped(std::string_view line) {
   return line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#';
 }
 
-sdk::Processed process(std::string_view line, long number, const Order& order) {
+sdk::Processed process_line(std::string_view line, long number, const Order& order) {
   if (line.ends_with('\r')) line.remove_suffix(1);
   if (is_skipped(line)) return {};
   if (const std::string fault = sdk::puzzle_fault(line); !fault.empty())
-    return {"", "error line " + std::to_string(number) + ": " + fault + "\n", true};
-  return {order.tell ? order.tell(line) : sdk::walk(line), ""};
+    return fault_of("line " + std::to_string(number), fault);
+  return {told(line, order), ""};
 }
 
-/// Plays every line of the standard input; the exit status.
+sdk::Processed process_file(const std::string& name, const Order& order) {
+  auto [cells, failure] = sdk::grid_in_file(name);
+  if (!failure.empty()) return fault_of(name, failure);
+  std::ranges::replace(cells, ' ', '.');
+  if (const std::string fault = sdk::puzzle_fault(cells); !fault.empty())
+    return fault_of(name, "no saved game: " + fault);
+  return {told(cells, order), ""};
+}
+
+sdk::FilterEnd play_files(const Order& order) {
+  return sdk::filter_items(
+      order.files, std::cout, std::cerr, order.jobs,
+      [&](const std::string& name, long) { return process_file(name, order); });
+}
+
+sdk::FilterEnd play_lines(const Order& order) {
+  return sdk::filter_lines(
+      std::cin, std::cout, std::cerr, order.jobs,
+      [&](const std::string& line, long number) { return process_line(line, number, order); });
+}
+
+/// Plays the files, or every line of the standard input; the exit status.
 int play_all(const Order& order) {
-  const auto process_line = [&](const std::string& line, long number) {
-    return process(line, number, order);
-  };
-  const auto [had_faults, failure] =
-      sdk::filter_lines(std::cin, std::cout, std::cerr, order.jobs, process_line);
+  const auto [had_faults, failure] = order.files.empty() ? play_lines(order) : play_files(order);
   if (!failure.empty()) std::cerr << "error " << failure << '\n';
   return had_faults || !failure.empty() ? 1 : 0;
 }
@@ -114,26 +148,36 @@ bool read_jobs(std::string_view word, Order& order) {
          order.jobs <= most_jobs;
 }
 
-using Words = std::vector<std::string>;
+using Rest = std::span<const std::string>;
 
-/// Takes one option, and its value if it has one, off the front; false when it is none.
-bool take_option(std::span<const std::string>& words, Order& order) {
-  if (words.front() == "--json") {
-    words = words.subspan(1);
-    return read_json(order);
-  }
-  if (words.size() < 2) return false;
-  const std::string_view option = words[0], value = words[1];
-  words = words.subspan(2);
+const std::string& take_first(Rest& words) {
+  const std::string& first = words.front();
+  words = words.subspan(1);
+  return first;
+}
+
+/// Takes one option, and its value if it has one; false when it is none.
+bool take_option(Rest& words, Order& order) {
+  const std::string& option = take_first(words);
+  if (option == "--json") return read_json(order);
+  if (words.empty()) return false;
+  const std::string& value = take_first(words);
   if (option == "--explain") return read_language(value, order);
   return option == "--jobs" && read_jobs(value, order);
 }
 
+/// Takes one option or one file; false when it is neither.
+bool take(Rest& words, Order& order) {
+  if (words.front().starts_with('-')) return take_option(words, order);
+  order.files.push_back(take_first(words));
+  return true;
+}
+
 /// Nothing when a word is out of place.
-std::optional<Order> read_order(std::span<const std::string> words) {
+std::optional<Order> read_order(Rest words) {
   Order order;
   while (!words.empty())
-    if (!take_option(words, order)) return std::nullopt;
+    if (!take(words, order)) return std::nullopt;
   return order;
 }
 

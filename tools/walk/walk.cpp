@@ -96,7 +96,11 @@ std::string walk(std::string_view puzzle) {
 
 std::string explained_walk(std::string_view puzzle, std::string_view language) {
   std::string text = grid_line(puzzle);
-  play(puzzle_of(puzzle), [&](const Event& event) { text += explain(event, language) + "\n"; });
+  play_hints(puzzle_of(puzzle), [&](const std::deque<Event>& hint) {
+    int number = 0;
+    for (const std::string& step : explain(hint, language))
+      text += std::to_string(++number) + ". " + step + "\n";
+  });
   return text;
 }
 

@@ -14,7 +14,7 @@ namespace sdk {
 
 /// Every change of a technique, every offer and the end, a line each, after a line with the grid.
 std::string walk(std::string_view puzzle);
-/// The same in sentences, in the language "En" or "Fr".
+/// The same in sentences, in the language "En" or "Fr"; the steps of each hint are numbered from 1.
 std::string explained_walk(std::string_view puzzle, std::string_view language);
 
 /// A checksum of the walks of the forty puzzles of the library. It changes when, and practically

@@ -13,11 +13,13 @@
 #include <QtTest>
 #include <algorithm>
 
+#include "explanations/explanations.hpp"
 #include "logic/techniques.hpp"
 #include "tools/guide/errors.hpp"
 #include "tools/guide/manuscript.hpp"
 #include "tools/guide/pages.hpp"
 #include "tools/guide/pictures.hpp"
+#include "tools/guide/positions.hpp"
 #include "tools/guide/typesetting.hpp"
 #include "ui/version.hpp"
 
@@ -44,13 +46,18 @@ QStringList matches(const QString& pattern, const QString& text) {
 
 QStringList pictures_in(const QString& text) { return matches(R"(!\[[^\]]+\]\(([^)]+)\))", text); }
 
-QString picture_of_technique(int place) {
-  return QString("technique-%1").arg(place, 2, 10, QChar('0'));
+Manuscript manuscript_in(const QString& language) {
+  return parse_manuscript(text_of(language), language.toStdString());
+}
+
+/// Whether the position is one for the technique and the rule.
+bool is_for(const GuidePosition& position, const Technique& technique, Rule rule) {
+  return position.technique == technique.id && position.rule == rule;
 }
 
 /// The section that shows the picture; empty when none does.
 QString section_with(const QString& picture, const QString& language) {
-  for (const Passage& passage : parse_manuscript(text_of(language)).passages)
+  for (const Passage& passage : manuscript_in(language).passages)
     if (passage.is_section && pictures_in(passage.markdown) == QStringList(picture))
       return passage.markdown;
   return "";
@@ -97,13 +104,13 @@ class GuideTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void the_guides_stand_beside_the_program_and_have_4_to_8_pages_data() { languages(); }
-  void the_guides_stand_beside_the_program_and_have_4_to_8_pages() {
+  void the_guides_stand_beside_the_program_and_have_8_to_16_pages_data() { languages(); }
+  void the_guides_stand_beside_the_program_and_have_8_to_16_pages() {
     QFETCH(QString, language);
     const QByteArray pdf = content(GUIDES "/Sudoku_" + language + ".pdf");
     QVERIFY(pdf.startsWith("%PDF-"));
     const auto pages = matches(R"(/Type /(Page)\b)", QString::fromLatin1(pdf)).size();
-    QVERIFY2(pages >= 4 && pages <= 8, qPrintable(QString("%1 pages").arg(pages)));
+    QVERIFY2(pages >= 8 && pages <= 16, qPrintable(QString("%1 pages").arg(pages)));
   }
 
   void a_guide_shows_every_picture_that_is_taken_and_no_other_data() { languages(); }
@@ -116,14 +123,48 @@ class GuideTest : public QObject {
     QCOMPARE(shown, taken);
   }
 
-  void every_technique_has_its_heading_picture_and_two_sentences_data() { languages(); }
-  void every_technique_has_its_heading_picture_and_two_sentences() {
+  void every_position_has_its_heading_picture_and_two_sentences_data() { languages(); }
+  void every_position_has_its_heading_picture_and_two_sentences() {
     QFETCH(QString, language);
-    for (const Technique& technique : techniques) {
-      const QString section = section_with(picture_of_technique(technique.place), language);
-      QVERIFY2(section.startsWith("### "), technique.name.data());
+    for (const GuidePosition& position : positions()) {
+      const std::string name = name_of(position);
+      const QString section = section_with("step-" + QString::fromStdString(name), language);
+      QVERIFY2(section.startsWith("### "), name.c_str());
       const QString explanation = section.split("\n\n").value(2);
       QCOMPARE(matches(R"(([.!?])(?=\s|$))", explanation).size(), 2);
+    }
+  }
+
+  void every_position_tells_its_own_step_data() { languages(); }
+  void every_position_tells_its_own_step() {
+    QFETCH(QString, language);
+    for (const GuidePosition& position : positions()) {
+      const QString name = QString::fromStdString(name_of(position));
+      const auto told = explain(steps_to(position), language.toStdString()).back();
+      QCOMPARE(section_with("step-" + name, language).split("\n\n").value(3),
+               "*" + QString::fromStdString(told) + "*");
+    }
+  }
+
+  void every_technique_has_a_position_and_the_unique_rectangle_one_a_rule() {
+    for (std::size_t row = 0; row < row_count; ++row)
+      QVERIFY2(std::ranges::count(positions(), technique_at(row).id, &GuidePosition::technique) > 0,
+               technique_at(row).name.data());
+    const Technique& rectangle = technique_named("unique_rectangle");
+    for (const Rule rule : {Rule::odd_corner, Rule::two_share_a_digit, Rule::bound_to_roof,
+                            Rule::three_share_a_digit, Rule::bound_to_diagonal})
+      QCOMPARE(std::ranges::count_if(positions(), [&](const GuidePosition& position) {
+                 return is_for(position, rectangle, rule);
+               }),
+               1);
+  }
+
+  void a_position_that_is_not_there_is_named() {
+    try {
+      parse_manuscript("{step no_such_step}", "En");
+      QFAIL("nothing is wrong with it");
+    } catch (const GuideError& error) {
+      QVERIFY2(QString(error.what()).contains("no_such_step"), error.what());
     }
   }
 
@@ -142,21 +183,21 @@ class GuideTest : public QObject {
   }
 
   void page_and_version_are_those_of_the_program() {
-    const Manuscript manuscript = parse_manuscript("# A title\n\nSee {page} for {version}.\n");
+    const Manuscript manuscript = parse_manuscript("# A title\n\nSee {page} for {version}.\n", "En");
     QCOMPARE(manuscript.title, "A title");
     QCOMPARE(manuscript.passages.front().markdown,
              QString("# A title\n\nSee %1 for %2.\n\n").arg(page_address, program_version));
   }
 
   void only_headings_of_the_third_level_begin_sections() {
-    const auto passages = parse_manuscript("# A\n\n## B\n\n### C\n\n#### D\n").passages;
+    const auto passages = parse_manuscript("# A\n\n## B\n\n### C\n\n#### D\n", "En").passages;
     QCOMPARE(passages.size(), std::size_t{3});
     QVERIFY(!passages[0].is_section && !passages[1].is_section && passages[2].is_section);
   }
 
   void sections_stand_side_by_side() {
     Pictures pictures("En");
-    const auto document = typeset(parse_manuscript("### A\n\na\n\n### B\n\nb\n"), pictures);
+    const auto document = typeset(parse_manuscript("### A\n\na\n\n### B\n\nb\n", "En"), pictures);
     const QTextTable* table = QTextCursor(block_with(*document, "B")).currentTable();
     QVERIFY(table);
     QCOMPARE(table->cellAt(0, 1).firstCursorPosition().block().text(), "B");
@@ -193,7 +234,7 @@ class GuideTest : public QObject {
 
   void a_picture_that_fits_on_no_page_is_refused() {
     Pictures pictures("En");
-    const auto document = typeset(parse_manuscript("![Window](window)\n"), pictures);
+    const auto document = typeset(parse_manuscript("![Window](window)\n", "En"), pictures);
     QTextCursor cursor(document.get());
     cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
     QTextImageFormat format = cursor.charFormat().toImageFormat();

@@ -243,14 +243,18 @@ TEST(Walk, ExplainsInEnglishAndFrench) {
   const std::string line = nearly_full + "\\n";
   EXPECT_EQ(walk(line, "--explain en").output,
             "grid " + nearly_full +
-                "\nNaked single: the 1 is all that is left in r1c1.\n"
-                "Naked single: the 5 is all that is left in r9c9.\n"
-                "The puzzle is complete.\n");
-  EXPECT_EQ(walk(line, "--explain fr").output,
-            "grid " + nearly_full +
-                "\nSingleton nu : en L1C1 il ne reste que le 1.\n"
-                "Singleton nu : en L9C9 il ne reste que le 5.\n"
-                "La grille est terminée.\n");
+                "\n1. Naked single: r1c1 can only be 1: row 1 has 2, 3, 4, 5, 6, 7, 8 and 9.\n"
+                "1. Naked single: r9c9 can only be 5: row 9 has 1, 2, 3, 4, 6, 7, 8 and 9.\n"
+                "1. The puzzle is complete.\n");
+  EXPECT_EQ(
+      walk(line, "--explain fr").output,
+      "grid " + nearly_full +
+          "\n1. Singleton nu\u00A0: L1C1 ne peut être que 1\u00A0: la ligne 1 a 2, 3, 4, 5, 6, 7, "
+          "8 "
+          "et 9.\n"
+          "1. Singleton nu\u00A0: L9C9 ne peut être que 5\u00A0: la ligne 9 a 1, 2, 3, 4, 6, 7, 8 "
+          "et 9.\n"
+          "1. La grille est terminée.\n");
 }
 
 TEST(Walk, ReportsFaultsWhileExplainingToo) {
@@ -275,7 +279,7 @@ TEST(Walk, TheSignatureIsOneNumber) {
 }
 
 TEST(Walk, RefusesOtherArguments) {
-  for (const char* arguments : {"--explain", "--explain de", "--explain en fr", "--walk", "file",
+  for (const char* arguments : {"--explain", "--explain de", "--walk", "-x", "-", "file --jobs",
                                 "--help me", "--signature 2", "--explain en --explain de", "--jobs",
                                 "--jobs 0", "--jobs -1", "--jobs 2x", "--jobs 99999"}) {
     const ToolRun run = run_tool(SUDOKU_WALK " " + std::string(arguments));
