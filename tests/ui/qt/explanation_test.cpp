@@ -48,6 +48,7 @@ class ExplanationTest : public QObject {
   void nothing_is_drawn_before_a_hint() { QVERIFY(!panel().isVisible()); }
 
   void a_hint_fills_the_room_with_its_steps_the_last_in_view() {
+    play_->click("Check2");
     hint();
     QVERIFY(panel().isVisible());
     QCOMPARE(list().model()->rowCount(), 2);
@@ -132,11 +133,12 @@ class ExplanationTest : public QObject {
     play_->press(Qt::Key_Down);
     QCOMPARE(chosen(), Step(0));
     QVERIFY(row(0).top() < 0);
-    for (int i = 0; i < 20 && chosen() == Step(0); ++i) play_->press(Qt::Key_Down);
+    for (int i = 0; i < 100 && chosen() == Step(0); ++i) play_->press(Qt::Key_Down);
     QCOMPARE(chosen(), Step(1));
   }
 
   void the_mouse_over_a_sentence_that_is_too_long_is_told_the_whole() {
+    play_->click("Check2");
     hint();
     QVERIFY(help_for(1).isEmpty());
     QVERIFY(help_for(0).contains("Coloriage simple"));
