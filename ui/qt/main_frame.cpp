@@ -52,7 +52,8 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       explanation_(new ExplanationPanel(this)),
       lines_(new LineOverlay(window, this)),
       gate_(*this, *explanation_),
-      update_(*this, [this] { show_state(); }) {
+      update_(*this, [this] { show_state(); }),
+      update_explanation_(*this, [this] { show_explanation(); }) {
   install_accessible_roles();
   setObjectName("sudoku");
   commands_->setObjectName("commands");
@@ -125,6 +126,7 @@ void MainFrame::preview(int code) {
 
 int MainFrame::ask_about_hint(QMessageBox& box) {
   update_.make_now();
+  update_explanation_.make_now();
   box.setAccessibleDescription(explanation_->last_sentence());
   return gate_.ask(box);
 }
@@ -157,7 +159,7 @@ void MainFrame::about_changed() {
   if (window_.about().shown()) open_about();
 }
 
-void MainFrame::explanation_changed() { update_.ask(); }
+void MainFrame::explanation_changed() { update_explanation_.ask(); }
 
 void MainFrame::close_about() {
   if (!about_) return;
@@ -177,6 +179,7 @@ void MainFrame::open_about() {
 
 void MainFrame::refresh() {
   update_.make_now();
+  update_explanation_.make_now();
   repaint();
 }
 
@@ -190,8 +193,8 @@ void MainFrame::show_state() {
   // A grid that is hidden without its frame is only being rewritten.
   msf_->setVisible(window_.visible(Control::rect));
   msr_->setVisible(window_.visible(Control::rect2));
-  show_explanation();
   place_widgets();
+  show_explanation();
 }
 
 void MainFrame::show_explanation() {

@@ -80,6 +80,7 @@ class MainFrame : public QWidget, private WindowListener {
   QuestionGate gate_;
   AboutDialog* about_ = nullptr;  ///< exists while the box is shown
   DeferredCall update_;
+  DeferredCall update_explanation_;
   bool session_ends_ = false;
 };
 

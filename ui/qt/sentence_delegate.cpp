@@ -38,6 +38,18 @@ QPalette::ColorGroup group_of(const QStyleOptionViewItem& option) {
 
 }  // namespace
 
+const QStaticText& SentenceDelegate::wrapped(const QString& text, int width,
+                                             const QFont& font) const {
+  Wrapped* kept = wrapped_.object(text);
+  if (kept && kept->text.textWidth() == width && kept->font == font) return kept->text;
+  kept = new Wrapped{QStaticText(text), font};
+  kept->text.setTextFormat(Qt::PlainText);
+  kept->text.setTextWidth(width);
+  kept->text.prepare({}, font);
+  wrapped_.insert(text, kept);
+  return kept->text;
+}
+
 void SentenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   const Sentence sentence(index);
@@ -50,7 +62,7 @@ void SentenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   painter->setPen(option.palette.color(group, chosen ? QPalette::HighlightedText : QPalette::Text));
   painter->drawText(room.translated(side_margin - room.left() + option.rect.left(), 0),
                     Qt::AlignLeft | Qt::TextDontClip, sentence.number);
-  painter->drawText(room, Qt::AlignLeft | Qt::TextWordWrap, sentence.text);
+  painter->drawStaticText(room.topLeft(), wrapped(sentence.text, room.width(), option.font));
   painter->restore();
 }
 
@@ -59,9 +71,8 @@ QSize SentenceDelegate::sizeHint(const QStyleOptionViewItem& option,
   const auto* list = qobject_cast<const QAbstractItemView*>(option.widget);
   const int width = list ? list->viewport()->width() : option.rect.width();
   const QRect room = room_of_text(QRect(0, 0, width, 1 << 16), option.fontMetrics, index);
-  const QRect text =
-      option.fontMetrics.boundingRect(room, Qt::AlignLeft | Qt::TextWordWrap, Sentence(index).text);
-  return {width, text.height() + 2 * row_margin};
+  const QSizeF text = wrapped(Sentence(index).text, room.width(), option.font).size();
+  return {width, qCeil(text.height()) + 2 * row_margin};
 }
 
 bool SentenceDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,

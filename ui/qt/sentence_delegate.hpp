@@ -5,6 +5,8 @@
 #pragma once
 
 #include <QAbstractItemDelegate>
+#include <QCache>
+#include <QStaticText>
 
 namespace sdk {
 
@@ -20,6 +22,17 @@ class SentenceDelegate : public QAbstractItemDelegate {
   /// The mouse over a sentence that is too long for the list is told the whole.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
+
+ private:
+  /// The text wrapped to the width. Laying it out costs more than painting it, and the same text is
+  /// measured and painted several times.
+  const QStaticText& wrapped(const QString& text, int width, const QFont& font) const;
+
+  struct Wrapped {
+    QStaticText text;
+    QFont font;
+  };
+  mutable QCache<QString, Wrapped> wrapped_;
 };
 
 }  // namespace sdk
