@@ -4,13 +4,16 @@
 
 # Installs what is missing, builds the game and starts it.
 #   ./run.sh [puzzle.sdk]
+# SUDOKU_ZOLV=OFF leaves out the companion solver: the game searches by itself.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 build() {
   echo "Building the game."
-  if [[ ! -f $root/build/build.ninja ]]; then
-    (cd "$root" && cmake --preset release -D BUILD_TESTING=OFF >/dev/null)
+  local solver=${SUDOKU_ZOLV:-ON} fresh=()
+  [[ -f $root/build/build.ninja ]] || fresh=(-D BUILD_TESTING=OFF)
+  if ! grep -qsx "SUDOKU_ZOLV:BOOL=$solver" "$root/build/CMakeCache.txt"; then
+    (cd "$root" && cmake --preset release -D SUDOKU_ZOLV="$solver" "${fresh[@]}" >/dev/null)
   fi
   cmake --build "$root/build" --target sudoku tools/all
 }

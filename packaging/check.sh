@@ -44,15 +44,29 @@ check_package() { # every place that names the version has to name the same
     fail "the catalogue entry has no release $version"
   [[ $("$work/usr/bin/sudoku" --version) == "SuDoKu $version" ]] ||
     fail "the program does not say version $version"
-  if dpkg-deb -c "${package[0]}" | grep zolv; then fail "the package holds the companion solver"; fi
+  dpkg-deb -c "${package[0]}" | grep ' ./usr/lib/sudoku/zolv.exe$' >/dev/null ||
+    fail "the package has no solver beside the program"
 }
 
-check_solver() { # a solver beside the installed programs is found through their links
-  local solver=$work/usr/lib/sudoku/zolv.exe
-  printf '#!/bin/sh\ntouch asked\n' >"$solver"
-  chmod +x "$solver"
-  printf '%s\n' 'seed 1' 'click Bouton_GO' | tmp=$work "$work/usr/bin/sudoku-script" >/dev/null
-  [[ -f $work/usr/lib/sudoku/asked ]] || fail "an external solver is not found"
+play_text() { # [COMMAND]: prints the solution of an empty grid, which has many
+  printf '%s\n' "$@" 'check Check3 off' 'click Command2' 'click Bouton_GO' 'show MSF' |
+    tmp=$work "$work/usr/bin/sudoku-script" | tail -n 9
+}
+
+check_solver() { # it answers as the search does; the game as text has it when it asks for it
+  local folder=$work/usr/lib/sudoku searched
+  searched=$(play_text)
+  [[ $searched == 123456789* ]] || fail "the search finds no solution"
+  [[ $(play_text "program $folder") == "$searched" ]] ||
+    fail "the solver does not answer as the search does"
+  mv "$folder/zolv.exe" "$work"
+  printf '#!/bin/sh\ntouch asked\n' >"$folder/zolv.exe"
+  chmod +x "$folder/zolv.exe"
+  play_text >/dev/null
+  [[ ! -f $folder/asked ]] || fail "the game as text asks a solver that no script named"
+  play_text "program $folder" >/dev/null
+  [[ -f $folder/asked ]] || fail "the solver beside the program is not asked"
+  mv "$work/zolv.exe" "$folder"
 }
 
 use_game() {

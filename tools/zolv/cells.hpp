@@ -34,6 +34,9 @@ class Cells {
   constexpr bool contains(int cell) const { return bands_[cell / 27] >> cell % 27 & 1; }
   /// `b` is 0..2.
   constexpr Band band(int b) const { return bands_[b]; }
+  constexpr int count() const {
+    return std::popcount(bands_[0]) + std::popcount(bands_[1]) + std::popcount(bands_[2]);
+  }
   /// The lowest cell of a set that is not empty.
   constexpr int first() const {
     int b = 0;

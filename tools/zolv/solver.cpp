@@ -3,112 +3,122 @@
 
 #include "solver.hpp"
 
-#include "cells.hpp"
-#include "units.hpp"
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "board.hpp"
 
 namespace zolv {
 
 namespace {
 
-constexpr auto kept_by = [] {
-  std::array<Cells, 81> kept;
-  for (int cell = 0; cell < 81; ++cell) kept[cell] = all_but_peers(cell);
-  return kept;
-}();
-
-/// What is known of a grid: for each digit (0..8 here) the cells where it can still stand.
-class Board {
+/// A search by the most constrained cell that gives up after some boards.
+class QuickSearch {
  public:
-  Board() { places_.fill(Cells::all()); }
-
-  bool can_hold(int cell, int digit) const { return places_[digit].contains(cell); }
-
-  /// Takes every other digit out of `cell`.
-  void leave_only(int digit, int cell) {
-    for (int other = 0; other < 9; ++other)
-      if (other != digit) places_[other] -= Cells::only(cell);
+  /// A solution of `board`; nothing when there is none, or when the search gave up.
+  std::optional<Board> run(Board board) {
+    while (boards_left_-- > 0) {
+      if (!board.propagate()) return std::nullopt;
+      if (board.solved()) return board;
+      const int cell = board.most_constrained_cell(), digit = board.first_candidate(cell);
+      std::optional<Board> full = run(board.with(digit, cell));
+      if (full || gave_up()) return full;
+      board.take(digit, cell);
+    }
+    return std::nullopt;
   }
 
-  /// Draws all conclusions from cells with one candidate left and from digits with one place left
-  /// in a unit. False when they contradict each other.
-  bool propagate() {
-    std::optional<Cells> isolated;
-    do {
-      if (!settle_naked_singles()) return false;
-      isolated = isolate_hidden_singles();
-    } while (isolated && !isolated->empty());
-    return isolated.has_value();
-  }
-
-  bool solved() const { return settled_ == Cells::all(); }
-
-  /// The first cell with the fewest candidates among those with more than one. There must be one.
-  int most_constrained_cell() const {
-    std::array<Cells, 11> at_least{Cells::all()};
-    for (const Cells& places : places_)
-      for (int n = 9; n >= 1; --n) at_least[n] |= at_least[n - 1] & places;
-    int n = 2;
-    while (at_least[n] == at_least[n + 1]) ++n;
-    return (at_least[n] - at_least[n + 1]).first();
-  }
+  bool gave_up() const { return boards_left_ < 0; }
 
  private:
-  /// Gives every cell with one candidate its digit, and again for what follows from it. False when
-  /// a cell has no candidate.
-  bool settle_naked_singles() {
-    for (;;) {
-      Cells one, two;
-      for (const Cells& places : places_) {
-        two |= one & places;
-        one |= places;
-      }
-      if (one != Cells::all()) return false;
-      const Cells fresh = one - two - settled_;
-      if (fresh.empty()) return true;
-      settle(fresh);
-    }
-  }
-
-  /// Takes the digit of each of `cells`, which have one candidate, out of their peers.
-  void settle(const Cells& cells) {
-    settled_ |= cells;
-    for (Cells& places : places_)
-      for (Cells left = places & cells; !left.empty(); left.remove_first())
-        places &= kept_by[left.first()];
-  }
-
-  /// Takes the other digits out of every cell that is a digit's only place in a unit, and gives
-  /// these cells; nothing when a digit has no place in a unit, or two digits need the same cell.
-  std::optional<Cells> isolate_hidden_singles() {
-    std::array<Cells, 9> single;
-    Cells found, contested;
-    for (int digit = 0; digit < 9; ++digit) {
-      const std::optional<Cells> alone = alone_in_unit(places_[digit]);
-      if (!alone) return std::nullopt;
-      single[digit] = *alone - settled_;
-      contested |= found & single[digit];
-      found |= single[digit];
-    }
-    if (!contested.empty()) return std::nullopt;
-    for (int digit = 0; digit < 9; ++digit) places_[digit] -= found - single[digit];
-    return found;
-  }
-
-  std::array<Cells, 9> places_;
-  Cells settled_;
+  int boards_left_ = 1000;  // about a millisecond
 };
 
-std::optional<Board> search(Board board) {
-  if (!board.propagate()) return std::nullopt;
-  if (board.solved()) return board;
-  const int cell = board.most_constrained_cell();
-  for (int digit = 0; digit < 9; ++digit) {
-    if (!board.can_hold(cell, digit)) continue;
-    Board guess = board;
-    guess.leave_only(digit, cell);
-    if (const std::optional<Board> full = search(guess)) return full;
+/// Looks one step ahead: which candidates contradict what is known, and which cell splits a grid
+/// into the smallest parts.
+class Lookahead {
+ public:
+  explicit Lookahead(const Board& board) : board_(board) {}
+
+  /// Takes out all candidates that lead to a contradiction at once. False when nothing is left.
+  bool narrow() {
+    if (!board_.propagate()) return false;
+    do {
+      narrowed_ = false;
+      smallest_ = std::numeric_limits<double>::infinity();
+      for (int cell = 0; cell < 81; ++cell)
+        if (board_.is_open(cell) && !try_cell(cell)) return false;
+    } while (narrowed_);
+    return true;
   }
-  return std::nullopt;
+
+  const Board& board() const { return board_; }
+  /// Where to split a board that narrow() left unsolved.
+  int best_cell() const { return best_cell_; }
+
+ private:
+  bool try_cell(int cell) {
+    double size = 0;
+    for (int digit = 0; digit < 9; ++digit) {
+      if (!board_.can_hold(cell, digit)) continue;
+      Board next = board_.with(digit, cell);
+      if (next.propagate())
+        size += std::exp2(next.candidates() / 8.0);
+      else if (!take(digit, cell))
+        return false;
+    }
+    if (size < smallest_) best_cell_ = cell;
+    smallest_ = std::min(smallest_, size);
+    return true;
+  }
+
+  bool take(int digit, int cell) {
+    narrowed_ = true;
+    board_.take(digit, cell);
+    return board_.propagate();
+  }
+
+  Board board_;
+  bool narrowed_ = false;
+  double smallest_ = 0;
+  int best_cell_ = 0;
+};
+
+/// A solution of `board`. Contradictions that the quick search meets too late, again and again, are
+/// seen by looking ahead; neither answers all grids fast alone.
+std::optional<Board> find_solution(const Board& board) {
+  QuickSearch quick;
+  std::optional<Board> full = quick.run(board);
+  if (!quick.gave_up()) return full;
+  Lookahead lookahead(board);
+  if (!lookahead.narrow()) return std::nullopt;
+  if (lookahead.board().solved()) return lookahead.board();
+  const int cell = lookahead.best_cell();
+  for (int digit = 0; digit < 9 && !full; ++digit)
+    if (lookahead.board().can_hold(cell, digit))
+      full = find_solution(lookahead.board().with(digit, cell));
+  return full;
+}
+
+/// A solution with a digit below `digit` in `cell`.
+std::optional<Board> find_below(Board board, int cell, int digit) {
+  if (board.first_candidate(cell) >= digit) return std::nullopt;
+  for (int other = digit; other < 9; ++other) board.take(other, cell);
+  return find_solution(board);
+}
+
+/// The first solution of `board` in row order, from any one of them: cell by cell, no solution with
+/// the cells before may have a smaller digit there.
+Board first_in_row_order(Board board, Board solution) {
+  board.propagate();
+  for (int cell = 0; cell < 81 && !board.solved(); ++cell) {
+    while (const auto smaller = find_below(board, cell, solution.first_candidate(cell)))
+      solution = *smaller;
+    board.leave_only(solution.first_candidate(cell), cell);
+    board.propagate();
+  }
+  return solution;
 }
 
 Board board_of(const Grid& givens) {
@@ -121,17 +131,17 @@ Board board_of(const Grid& givens) {
 Grid grid_of(const Board& solved) {
   Grid grid{};
   for (int cell = 0; cell < 81; ++cell)
-    for (int digit = 0; digit < 9; ++digit)
-      if (solved.can_hold(cell, digit)) grid[cell] = static_cast<std::uint8_t>(digit + 1);
+    grid[cell] = static_cast<std::uint8_t>(solved.first_candidate(cell) + 1);
   return grid;
 }
 
 }  // namespace
 
 std::optional<Grid> solve(const Grid& givens) {
-  const std::optional<Board> solved = search(board_of(givens));
-  if (!solved) return std::nullopt;
-  return grid_of(*solved);
+  const Board board = board_of(givens);
+  const std::optional<Board> solution = find_solution(board);
+  if (!solution) return std::nullopt;
+  return grid_of(first_in_row_order(board, *solution));
 }
 
 }  // namespace zolv
