@@ -37,11 +37,13 @@ void play(Studio& studio) {
   studio.select(5, 5);
 }
 
+/// The question of a hint that took more than one step, the first of which is chosen.
 QImage take_offer(Studio& studio) {
-  studio.lay_out(puzzle);
+  studio.lay_out(position_named("xy_wing").grid);
   studio.show_candidates(true);
   QImage image;
   studio.boxes().answer = [&](QMessageBox& box) {
+    studio.choose_step(0);
     image = studio.window_under(box);
     return QMessageBox::No;
   };

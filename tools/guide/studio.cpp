@@ -90,6 +90,11 @@ void Studio::show_candidates(bool shown) {
   settle();
 }
 
+void Studio::choose_step(std::size_t step) {
+  window_.choose_step(step);
+  settle();
+}
+
 QImage Studio::window() {
   settle();
   return picture_of(frame_);

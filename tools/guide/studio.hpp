@@ -48,6 +48,8 @@ class Studio {
   void type(int row, int column, int digit);
   void select(int row, int column);
   void show_candidates(bool shown);
+  /// Shows that step of the hint alone, 0 the first.
+  void choose_step(std::size_t step);
   void ask_hint() { window_.click(Control::Command8); }
   void set_background_of_givens(Colour colour);
 
