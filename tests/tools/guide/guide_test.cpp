@@ -153,9 +153,10 @@ class GuideTest : public QObject {
     const Technique& rectangle = technique_named("unique_rectangle");
     for (const Rule rule : {Rule::odd_corner, Rule::two_share_a_digit, Rule::bound_to_roof,
                             Rule::three_share_a_digit, Rule::bound_to_diagonal})
-      QCOMPARE(std::ranges::count_if(positions(), [&](const GuidePosition& position) {
-                 return is_for(position, rectangle, rule);
-               }),
+      QCOMPARE(std::ranges::count_if(positions(),
+                                     [&](const GuidePosition& position) {
+                                       return is_for(position, rectangle, rule);
+                                     }),
                1);
   }
 
@@ -183,7 +184,8 @@ class GuideTest : public QObject {
   }
 
   void page_and_version_are_those_of_the_program() {
-    const Manuscript manuscript = parse_manuscript("# A title\n\nSee {page} for {version}.\n", "En");
+    const Manuscript manuscript =
+        parse_manuscript("# A title\n\nSee {page} for {version}.\n", "En");
     QCOMPARE(manuscript.title, "A title");
     QCOMPARE(manuscript.passages.front().markdown,
              QString("# A title\n\nSee %1 for %2.\n\n").arg(page_address, program_version));
