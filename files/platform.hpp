@@ -36,6 +36,14 @@ std::uint32_t start_process(const std::string& command_line);
 /// is reported once and is forgotten then; nothing for a process that is not known.
 std::optional<std::uint32_t> collect_exit_code(std::uint32_t id);
 
+/// The descriptor of a pipe that is given one byte whenever the system or the player tells the
+/// program to end by SIGTERM, SIGHUP or SIGINT: the signal's number. The same signal coming again
+/// ends the program at once, as it does when this was never called. One call at most.
+int open_end_signals();
+
+/// "SIGTERM" and the like; "signal 3" for a number that open_end_signals does not give.
+std::string signal_name(int number);
+
 /// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
 void write_new_file(const std::filesystem::path& file, std::string_view bytes);
 

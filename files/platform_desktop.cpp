@@ -14,7 +14,9 @@
 
 namespace sdk {
 
-PlatformDesktop::~PlatformDesktop() {
+PlatformDesktop::~PlatformDesktop() { remove_private_folder(); }
+
+void PlatformDesktop::remove_private_folder() noexcept {
   std::error_code ignored;
   if (!private_folder_.empty()) std::filesystem::remove_all(private_folder_, ignored);
 }

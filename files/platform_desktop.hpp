@@ -18,6 +18,8 @@ class PlatformDesktop : public Desktop {
  public:
   /// Removes the private temporary folder, if one was made, with all that is in it.
   ~PlatformDesktop() override;
+  /// The same, for a program that ends without its destructors.
+  void remove_private_folder() noexcept;
 
   std::filesystem::path program_folder() override;
   std::string temporary_folder() override;

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include <fcntl.h>
+#include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <string>
@@ -108,6 +110,45 @@ class Descriptor {
 };
 
 }  // namespace
+
+namespace {
+
+struct EndSignal {
+  int number;
+  const char* name;
+};
+
+constexpr std::array<EndSignal, 3> end_signals{
+    {{SIGTERM, "SIGTERM"}, {SIGHUP, "SIGHUP"}, {SIGINT, "SIGINT"}}};
+
+/// The end that the handler writes to, which may do little else.
+int end_signal_writer = -1;
+
+void tell_end_signal(int number) {
+  const int error = errno;
+  const auto byte = static_cast<unsigned char>(number);
+  [[maybe_unused]] const ssize_t written = write(end_signal_writer, &byte, 1);
+  errno = error;
+}
+
+}  // namespace
+
+int open_end_signals() {
+  int ends[2];
+  if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) fail(errno, "pipe");
+  end_signal_writer = ends[1];
+  struct sigaction action = {};
+  action.sa_handler = tell_end_signal;
+  action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+  for (const EndSignal& signal : end_signals) sigaction(signal.number, &action, nullptr);
+  return ends[0];
+}
+
+std::string signal_name(int number) {
+  for (const EndSignal& signal : end_signals)
+    if (signal.number == number) return signal.name;
+  return "signal " + std::to_string(number);
+}
 
 void write_new_file(const std::filesystem::path& file, std::string_view bytes) {
   Descriptor descriptor(file, O_CREAT | O_EXCL);

@@ -35,21 +35,25 @@ bool is_empty(const DisplayGrid& grid) {
 }
 
 /// Saves the displayed grid, unless it is empty, beside earlier ones and says where, or why not.
-std::string rescue_grid(Window& window, const std::string& language, const RuntimeError& error) {
-  if (is_empty(window.MSF)) return notice(Notice::fatal, language, error.what());
+std::string save_aside(Window& window, const std::string& language, std::string_view reason) {
+  if (is_empty(window.MSF)) return notice(Notice::fatal, language, reason);
   try {
     const auto path = unused_name(window.desktop().data_folder());
     Save_Grille(path.string());
-    return notice(Notice::fatal_saved, language, error.what(), path.string());
+    return notice(Notice::fatal_saved, language, reason, path.string());
   } catch (const std::exception& failure) {
-    return notice(Notice::fatal_not_saved, language, error.what(), failure.what());
+    return notice(Notice::fatal_not_saved, language, reason, failure.what());
   }
 }
 
 }  // namespace
 
+void MainWindow::rescue_grid(const std::string& reason) {
+  desktop().report_error(save_aside(*this, globals.Langue, reason));
+}
+
 void MainWindow::end_fatally(const RuntimeError& error) {
-  const std::string text = rescue_grid(*this, globals.Langue, error);
+  const std::string text = save_aside(*this, globals.Langue, error.what());
   desktop().report_error(text);
   show_box(text, Icon::critical, Buttons::ok);
   throw ProgramEnd{1};

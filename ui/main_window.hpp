@@ -104,6 +104,10 @@ class MainWindow final : public Window {
   /// Asks the player whether the window may close; at the end of the session it may, unasked.
   bool confirm_close(CloseMode mode);
 
+  /// Saves the grid as a failure does and reports where, without a box: the program is about to
+  /// end, and `reason` names what ends it. Nothing is thrown.
+  void rescue_grid(const std::string& reason);
+
   const ControlState& control(Control id) const { return controls_[index(id)]; }
   bool visible(Control id) const;
   const std::vector<LevelItem>& levels() const { return levels_; }

@@ -10,6 +10,7 @@
 #include "ui/qt/icons.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
+#include "ui/qt/sudden_end.hpp"
 
 int main(int argc, char** argv) {
   if (const auto answer = sdk::answer_without_game({argv + 1, argv + argc})) {
@@ -29,7 +30,18 @@ int main(int argc, char** argv) {
   fonts.wait();
   sdk::MainFrame frame(window, guard);
   desktop.set_window(&frame);
+  const sdk::ExitWatch exit_watch([&] {
+    window.rescue_grid("display");
+    desktop.remove_private_folder();
+  });
   guard.run([&] { window.start(sdk::command_line({argv + 1, argv + argc})); });
+  const sdk::EndSignals end_signals([&](int number, const std::string& name) {
+    constexpr int killed = 128;  // what a shell adds to a signal's number
+    guard.run([&] {
+      window.rescue_grid(name);
+      throw sdk::ProgramEnd{killed + number};
+    });
+  });
   if (!guard.status()) {
     frame.centre_on_screen();
     frame.show();

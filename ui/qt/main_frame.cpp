@@ -136,7 +136,9 @@ void MainFrame::closeEvent(QCloseEvent* event) {
   if (gate_.is_asking() && !session_ends_) return;
   const CloseMode mode = session_ends_ ? CloseMode::session_end : CloseMode::window_command;
   guard_.run([&] {
-    if (window_.confirm_close(mode)) throw ProgramEnd{0};
+    if (!window_.confirm_close(mode)) return;
+    if (session_ends_) window_.rescue_grid("session");
+    throw ProgramEnd{0};
   });
 }
 
