@@ -155,8 +155,12 @@ class Reader {
       claims_.chained.push_back({cells_in(match[1]), cells_in(match[2])});
     });
     each(turns_.covers, [&](const Match& match) { claims_.covers = digits_in(match[1]); });
+    each(turns_.wing, [&](const Match& match) {
+      claims_.wings.push_back({digits_in(match[1]), std::stoi(match[2]), digits_in(match[3])});
+    });
     each(turns_.fins, [&](const Match& match) {
-      claims_.fins.push_back({cells_in(match[1]), digits_in(match[2]), cells_in(match[3])});
+      claims_.fins.push_back(
+          {cells_in(match[1]), cells_in(match[3]), digits_in(match[2]) | digits_in(match[4])});
     });
   }
   void read_rectangles_and_colours() {
@@ -166,6 +170,12 @@ class Reader {
     each(turns_.corner, [&](const Match& match) { claims_.corner = cells_in(match[1]); });
     each(turns_.swapped, [&](const Match& match) { claims_.swapped = digits_in(match[1]); });
     each(turns_.ruled_out, [&](const Match& match) { claims_.ruled_out = digits_in(match[1]); });
+    each(turns_.is_no, [&](const Match& match) {
+      claims_.refusals.push_back({cells_in(match[1]), digits_in(match[2]) | digits_in(match[3])});
+    });
+    each(turns_.neither_is, [&](const Match& match) {
+      claims_.refusals.push_back({cells_in(match[1]), digits_in(match[2])});
+    });
     each(turns_.colours, [&](const Match& match) {
       claims_.colours.push_back({cells_in(match[1]), cells_in(match[2])});
     });
