@@ -14,18 +14,17 @@ std::string cells_told(const Words& words, const Deduction& deduction) {
   return can_only_be(words, premises_of<CellHolds>(deduction));
 }
 
-/// Where the rule is certain: "If r4c5 were 3 or 8 too, the 3 and 8 could be swapped in the four
-/// corners, giving two solutions; a Sudoku has only one. So". What follows goes on from there.
-/// Where nothing could be swapped, no such thing is claimed: the corners are only supposed to hold
+/// Where the rule is certain: "If r4c5 were 3 or 8 too, the 3 and 8 could be swapped in the
+/// corners, giving two solutions; a Sudoku has one. So". What follows goes on from there. Where
+/// nothing could be swapped, no such thing is claimed: the corners are only supposed to hold
 /// something else.
 std::string corners_differ(const Words& words, const Deduction& deduction,
                            const std::string& supposition) {
   if (deduction.certain)
-    return words.say({"%2, on pourrait échanger les %1 aux quatre coins, d'où deux solutions ; un "
-                      "sudoku n'en a qu'une. Donc",
-                      "%2, the %1 could be swapped in the four corners, giving two solutions; a "
-                      "Sudoku has only one. So"},
-                     words.all_of(deduction.digits), supposition);
+    return words.say(
+        {"%2, on pourrait échanger les %1 aux coins, or un sudoku n'a qu'une solution. Donc",
+         "%2, the %1 could be swapped in the corners, giving two solutions; a Sudoku has one. So"},
+        words.all_of(deduction.digits), supposition);
   return words.say(
       {"On suppose que les coins n'ont pas que %1 (pas certain ici : les coins ne sont "
        "pas dans deux régions). Si c'est juste,",
@@ -80,15 +79,15 @@ std::string tell_bound_to_diagonal(const Words& words, const ToldStep& step) {
           ? Text{"%1. %2. Si %3 était %4, l'autre aussi : les %5 pourraient s'échanger, or il n'y a "
                  "qu'une solution. Donc aucune n'est %4.",
                  "%1. %2. If %3 were %4, both would be: the %5 could be swapped in the corners, "
-                 "but a Sudoku has one solution. So neither is %4."}
+                 "but a Sudoku has only one solution. So neither is %4."}
           : Text{"%1. %2. Si %3 est %4, l'autre aussi. Si les coins n'ont pas que %5 (pas certain "
                  "ici : les coins ne sont pas dans deux régions), aucune n'est %4.",
-                 "%1. %2. If %3 is %4, both are. If the corners do not hold just %5 (not certain "
-                 "here: the corners do not lie in two boxes), neither is %4."};
+                 "%1. %2. If %3 is %4, both are. If not all corners are %6 (not certain here: the "
+                 "corners do not lie in two boxes), neither is %4."};
   return words.say(rest, cells_told(words, deduction),
                    capital(in_their_units(words, premises_of<DigitInUnit>(deduction))),
                    words.one_of(deduction.cells_as(Role::roof)), removed_digits(deduction).first(),
-                   words.all_of(deduction.digits));
+                   words.all_of(deduction.digits), words.one_of(deduction.digits));
 }
 
 std::string tell_avoidable(const Words& words, const ToldStep& step) {

@@ -125,8 +125,8 @@ TEST_F(Explanations, UniqueRectangleWithOneExtraDigitInThreeCorners) {
   fire(technique_named("unique_rectangle"));
   EXPECT_EQ(english(),
             "Unique rectangle: r4c4 can only be 3 or 8; r4c5, r7c4 and r7c5 only 3, 5 or 8. If "
-            "none of r4c5, r7c4 and r7c5 were 5, the 3 and 8 could be swapped in the four "
-            "corners, giving two solutions; a Sudoku has only one. So r8c5 sees a 5 in r4c5, r7c4 "
+            "none of r4c5, r7c4 and r7c5 were 5, the 3 and 8 could be swapped in the "
+            "corners, giving two solutions; a Sudoku has one. So r8c5 sees a 5 in r4c5, r7c4 "
             "or r7c5. To remove: 5 "
             "from r8c5.");
 }

@@ -74,14 +74,14 @@ class Reader {
   Reader(const std::string& text, const Turns& turns) : turns_(turns), text_(text) {}
 
   Claims read() {
+    read_doubts();
+    read_removals();
     read_names();
     read_candidates();
     read_reasons();
     read_fish();
     read_rectangles_and_colours();
     read_singles();
-    read_doubts();
-    read_removals();
     return claims_;
   }
 
@@ -140,6 +140,11 @@ class Reader {
   void read_reasons() {
     each(turns_.sees, [&](const Match& match) {
       claims_.sights.push_back({cells_in(match[1]), cells_in(match[3]), std::stoi(match[2])});
+    });
+    each(turns_.losers_see, [&](const Match& match) {
+      const int digit = std::stoi(match[1]);
+      claims_.sights.push_back(
+          {claims_.removed[static_cast<std::size_t>(digit)], cells_in(match[2]), digit});
     });
     each(turns_.if_it_is, [&](const Match& match) {
       claims_.consequences.push_back(

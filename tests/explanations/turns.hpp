@@ -13,6 +13,7 @@ struct Turns {
   const char *only_be, *only_be_next;          ///< cells, digits
   const char *only_go, *only_go_next;          ///< unit, digits, places; unit, places
   const char *digits_next, *also_in;           ///< digits, cells; unit, digits, cells
+  const char* losers_see;                      ///< digit, cells
   const char *sees, *sees_value;               ///< cells, digit, cells
   const char *has, *step_removed, *step_took;  ///< unit, digits; step, digits; step, cells
   const char *if_it_is, *makes;                ///< digit, cells, digit; cell, cells, digit
@@ -39,6 +40,7 @@ inline constexpr Turns english{
     .only_go_next = "^; in (@U), only in (@C|@L@D)",
     .digits_next = "^; the (@D) only in (@C)",
     .also_in = "\\(and in (@U)\\), the (@D) can only go in (@C)",
+    .losers_see = "the following cells see an? (\\d) in (@C)",
     .sees = "(@C) sees? an? (\\d) in (@C)",
     .sees_value = "(@C) sees? the (\\d) in (@C)",
     .has = "(@U) has (@D)",
@@ -55,11 +57,11 @@ inline constexpr Turns english{
     .corner = "If (@C) were @D too",
     .neither = "If (?:neither|none of) (.*) were (\\d),",
     .swapped =
-        "the (@D) could be swapped in the (?:four corners, giving two solutions; a Sudoku has only "
-        "one|corners, but a Sudoku has one solution)\\. So",
+        "the (@D) could be swapped in the corners, (?:giving two solutions; a Sudoku has one|but a "
+        "Sudoku has only one solution)\\. So",
     .ruled_out =
-        "(?:It is assumed that|If) the corners do not hold just (@D) \\(not certain here: "
-        "[^)]*\\)(?:\\. If that is right)?,",
+        "(?:It is assumed that the corners do not hold just|If not all corners are) (@D) \\(not "
+        "certain here: [^)]*\\)(?:\\. If that is right)?,",
     .is_no = "(?:So|right,) (@C) is neither (\\d) nor (\\d)\\.",
     .neither_is = "(?:So|right,|\\),) neither (?:(r.c. nor r.c.) )?is (\\d)\\.",
     .rests_on = " \\(not certain: rests on step (\\d+)\\)$",
@@ -74,13 +76,14 @@ inline constexpr Turns french{
     .line = "(?:ligne|colonne) ",
     .conjunction = "(?:et|ou)",
     .named_unit = "((?:ligne|colonne|région) \\d)",
-    .other_names = "L\\dC\\d|(?:ligne|colonne)s? @D|@U|étape \\d+|qu'en @D",
+    .other_names = "L\\dC\\d|(?:ligne|colonne|région)s? @D|@U|étape \\d+|qu'en @D",
     .only_be = "(@C) ne peu(?:t|vent) être que (@D)",
     .only_be_next = "^ ; (@C) que (@D)",
     .only_go = "[Dd]ans (@U)(?: \\(et dans @U\\))?, les? (@D) ne v(?:a|ont) qu'en (@C|@L@D)",
     .only_go_next = "^ ; ((?:ligne|colonne|région) \\d), qu'en (@C|@D)",
     .digits_next = "^ ; les? (@D) qu'en (@C)",
     .also_in = "\\(et dans (@U)\\), le (@D) ne va qu'en (@C)",
+    .losers_see = "les cases qui suivent voient un (\\d) en (@C)",
     .sees = "(@C) voi(?:t|ent) un (\\d) en (@C)",
     .sees_value = "(@C) voi(?:t|ent) le (\\d) en (@C)",
     .has = "(@U) a les? (@D)",
@@ -97,8 +100,8 @@ inline constexpr Turns french{
     .corner = "Si (@C) était @D aussi",
     .neither = "Si ni (.*) n'était (\\d),",
     .swapped =
-        "les (@D) (?:aux quatre coins, d'où deux solutions ; un sudoku n'en a qu'une|pourraient "
-        "s'échanger, or il n'y a qu'une solution)\\. Donc",
+        "les (@D) (?:aux coins, or un sudoku n'a|pourraient s'échanger, or il n'y a) qu'une "
+        "solution\\. Donc",
     .ruled_out =
         "(?:On suppose que|Si) les coins n'ont pas que (@D) \\(pas certain ici : [^)]*\\)(?:\\. Si "
         "c'est juste)?,",
