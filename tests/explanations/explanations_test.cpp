@@ -146,6 +146,22 @@ TEST_F(Explanations, ARectangleInFourBoxesAssertsNothing) {
           "régions). Si c'est juste, L5C8 n'est ni 3 ni 8. À retirer~: 3 et 8 de L5C8."));
 }
 
+TEST_F(Explanations, ADigitBoundToADiagonalInFourBoxesIsToldBriefly) {
+  hold({{{2, 1}, {3, 8}}, {{2, 8}, {3, 8, 9}}, {{5, 1}, {3, 7, 8}}, {{5, 8}, {3, 8}}});
+  fire(technique_named("unique_rectangle"));
+  EXPECT_EQ(english(),
+            "Unique rectangle: r2c1 and r5c8 can only be 3 or 8. In row 2, the 3 can only go in "
+            "r2c1 or r2c8; in row 5, only in r5c1 or r5c8. If r2c8 or r5c1 is 3, both are. If not "
+            "all corners are 3 or 8 (not certain here: the corners do not lie in two boxes), "
+            "neither is 3. To remove: 3 from r2c8 and r5c1.");
+  EXPECT_EQ(french(),
+            set_in_french(
+                "Rectangle unique~: L2C1 et L5C8 ne peuvent être que 3 ou 8. Dans la ligne 2, le 3 "
+                "ne va qu'en L2C1 ou L2C8~; ligne 5, qu'en L5C1 ou L5C8. Si L2C8 ou L5C1 est 3, "
+                "l'autre aussi. Si les coins n'ont pas que 3 et 8 (pas certain ici~: les coins ne "
+                "sont pas dans deux régions), aucune n'est 3. À retirer~: 3 de L2C8 et L5C1."));
+}
+
 TEST_F(Explanations, AvoidableRectangle) {
   hold({{{5, 8}, {3, 8, 9}}});
   for (const auto& [cell, value] : {std::pair<Cell, int>{{2, 1}, 3}, {{2, 8}, 8}, {{5, 1}, 8}}) {
@@ -164,12 +180,12 @@ TEST_F(Explanations, AColourThatSeesItself) {
   hold({{{1, 1}, {4}}, {{1, 5}, {4}}, {{6, 5}, {4}}, {{6, 2}, {4}}, {{2, 2}, {4}}, {{3, 3}, {4}}});
   fire(technique_named("simple_colouring"));
   EXPECT_EQ(english(),
-            "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c5; in column 5, only in "
-            "r1c5 or r6c5; in row 6, only in r6c2 or r6c5; in column 2, only in r2c2 or r6c2. Two "
-            "colours alternate on these cells. The 4 stands in every cell of one colour and none "
-            "of the other: either r1c1, r2c2 and "
-            "r6c5, or r1c5 and r6c2. But r1c1 and r2c2 see each other and cannot both be 4: their "
-            "colour is false. To remove: 4 from r1c1, r2c2 and r6c5.");
+            "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c5; in column 5, only "
+            "in r1c5 or r6c5; in row 6, only in r6c2 or r6c5; in column 2, only in r2c2 or "
+            "r6c2. Two colours alternate on these cells; the 4 fills all of one and none of the "
+            "other: either r1c1, r2c2 and r6c5, or r1c5 and r6c2. But r1c1 and r2c2 see each "
+            "other and cannot both be 4: their colour is false. To remove: 4 from r1c1, r2c2 "
+            "and r6c5.");
 }
 
 TEST_F(Explanations, PartsOfAColouringThatNothingJoinsAreToldOneByOne) {
@@ -185,12 +201,10 @@ TEST_F(Explanations, PartsOfAColouringThatNothingJoinsAreToldOneByOne) {
   EXPECT_EQ(
       english(),
       "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c3. Two colours alternate on "
-      "these cells. The 4 stands in every "
-      "cell of one colour and none of the other: either r1c1, or r1c3. Either way r2c2 sees a "
-      "4 in r1c1 or r1c3. In row 8, the 4 can only go in r8c7 or r8c9. Two colours alternate on "
-      "these cells. The 4 stands in every "
-      "cell of one colour and none of the other: either r8c7, or r8c9. Either way r9c8 sees a "
-      "4 in r8c7 or r8c9. To remove: 4 from r2c2 and r9c8.");
+      "these cells; the 4 fills all of one and none of the other: either r1c1, or r1c3. Either "
+      "way r2c2 sees a 4 in r1c1 or r1c3. In row 8, the 4 can only go in r8c7 or r8c9. Two "
+      "colours alternate on these cells; the 4 fills all of one and none of the other: either "
+      "r8c7, or r8c9. Either way r9c8 sees a 4 in r8c7 or r8c9. To remove: 4 from r2c2 and r9c8.");
 }
 
 TEST_F(Explanations, DigitsThatLeaveTheSameCellsAreToldTogether) {
