@@ -42,8 +42,8 @@ std::string in_their_units(const Words& words, const std::vector<DigitInUnit>& f
   for (const auto& [unit, digit, cells] : facts)
     clauses.push_back(words.say(
         clauses.empty() ? Text{"dans %1, le %2 ne va qu'en %3", "in %1, the %2 can only go in %3"}
-                        : Text{"dans %1, qu'en %3", "in %1, only in %3"},
-        unit, digit, words.one_of(cells)));
+                        : Text{"%4, qu'en %3", "in %1, only in %3"},
+        unit, digit, words.one_of(cells), words.bare(unit)));
   return words.listed(clauses);
 }
 

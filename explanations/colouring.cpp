@@ -53,15 +53,15 @@ Colours colours_of(const Deduction& deduction, const Chain& chain) {
           deduction.cells_as(Role::second_colour) & chain.cells};
 }
 
-/// "In row 1, the 4 can only go in r1c1 or r1c5; in column 5, ...: it is in all of r1c1 and r6c5,
-/// or in all of r1c5 and r6c2."
+/// "In row 1, the 4 can only go in r1c1 or r1c5; in column 5, .... Two colours alternate on these
+/// cells; the 4 fills all of one and none of the other: either r1c1 and r6c5, or r1c5 and r6c2."
 std::string two_colours(const Words& words, const Chain& chain, const Colours& colours) {
-  return words.say({"%1. Il occupe donc toutes les cases d'une couleur et aucune de l'autre : soit "
-                    "%2, soit %3.",
-                    "%1. So it stands in every cell of one colour and none of the other: either "
-                    "%2, or %3."},
+  return words.say({"%1. Deux couleurs alternent sur ces cases ; le %4 remplit l'une et aucune "
+                    "case de l'autre : soit %2, soit %3.",
+                    "%1. Two colours alternate on these cells; the %4 fills all of one and none of "
+                    "the other: either %2, or %3."},
                    in_their_units(words, chain.links), words.all_of(colours.first),
-                   words.all_of(colours.second));
+                   words.all_of(colours.second), chain.links.front().digit);
 }
 
 /// One cell of each colour that the target sees; none when it does not see both.

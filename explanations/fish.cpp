@@ -52,11 +52,11 @@ std::string base_places(const Words& words, const std::vector<DigitInUnit>& fact
   std::vector<std::string> clauses;
   for (const auto& [unit, digit, cells] : facts) {
     const UnitKind across = crossing(unit.kind);
-    clauses.push_back(words.say(
-        clauses.empty()
-            ? Text{"dans %1, le %2 ne va qu'en %3 %4", "in %1, the %2 can only go in %3 %4"}
-            : Text{"dans %1, qu'en %3 %4", "in %1, only in %3 %4"},
-        unit, digit, name(words, across), words.one_of(lines_through(across, cells))));
+    clauses.push_back(words.say(clauses.empty() ? Text{"dans %1, le %2 ne va qu'en %3 %4",
+                                                       "in %1, the %2 can only go in %3 %4"}
+                                                : Text{"%5, qu'en %4", "in %1, only in %3 %4"},
+                                unit, digit, name(words, across),
+                                words.one_of(lines_through(across, cells)), words.bare(unit)));
   }
   return words.listed(clauses);
 }
@@ -69,32 +69,36 @@ std::string tell_fish(const Words& words, const ToldStep& step) {
   const NineSet covers =
       lines_through(across, deduction.cells_as(Role::pattern) | losers(deduction));
   return words.say(
-      {"%1. Chaque %2 en prend une différente : les %3 ont donc là leur %4.",
+      {"%1. Chaque %2 prend une %5 différente : les %3 ont là leur %4, et pas ailleurs.",
        "%1. Each %2 takes a different one, so %3 have their %4 there and nowhere else."},
       base_places(words, premises_of<DigitInUnit>(deduction)), name(words, base),
-      named(words, across, covers), deduction.digits.first());
+      named(words, across, covers), deduction.digits.first(), name(words, across));
 }
 
 namespace {
 
-/// "columns 6 and 9 have one of these 4s each".
+/// "columns 6 and 9 have their 4 in row 2 or 5".
 std::string one_in_each(const Words& words, const Deduction& deduction) {
   const UnitKind base = deduction.unit.kind, across = crossing(base);
   const NineSet covers = lines_through(across, deduction.cells_as(Role::pattern));
-  return words.say({"les %1 ont chacune un %2 de ces %3s", "%1 have one of these %2s each"},
-                   named(words, across, covers), deduction.digits.first(), name(words, base));
+  NineSet bases;
+  for (const DigitInUnit& fact : premises_of<DigitInUnit>(deduction))
+    bases.insert(fact.unit.number);
+  return words.say({"les %1 ont leur %2 en %3 %4", "%1 have their %2 in %3 %4"},
+                   named(words, across, covers), deduction.digits.first(), name(words, base),
+                   words.one_of(bases));
 }
 
-/// "If r5c4 is not 4, columns 6 and 9 have one of these 4s each; if it is, r6c6 sees it."
+/// "If r5c4 is not 4, columns 6 and 9 have their 4 in row 2 or 5; if it is, r6c6 sees it."
 std::string fin_or_wing(const Words& words, const Deduction& deduction, Cell target) {
   const CellSet& fins = deduction.cells_as(Role::fin);
   const int digit = deduction.digits.first();
   const std::string wing = one_in_each(words, deduction);
   if (fins.count() == 1)
-    return words.say({"Si %1 n'est pas %2, %3 ; sinon %4 la voit.",
+    return words.say({"Si %1 n'est pas %2, %3 ; sinon %4 voit ce %2.",
                       "If %1 is not %2, %3; if it is, %4 sees it."},
                      words.all_of(fins), digit, wing, target);
-  return words.say({"Si ni %1 n'est %2, %3 ; sinon %4 la voit.",
+  return words.say({"Si ni %1 n'est %2, %3 ; sinon %4 voit ce %2.",
                     "If neither %1 is %2, %3; if one is, %4 sees it."},
                    words.none_of(fins), digit, wing, target);
 }

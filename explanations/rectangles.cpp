@@ -14,69 +14,80 @@ std::string cells_told(const Words& words, const Deduction& deduction) {
   return can_only_be(words, premises_of<CellHolds>(deduction));
 }
 
-/// What would come of four corners with just two digits. Where nothing could be swapped, that is
-/// not claimed.
-std::string told_swap(const Words& words, const Deduction& deduction) {
+/// Where the rule is certain: "If r4c5 were 3 or 8 too, the 3 and 8 could be swapped in the
+/// corners, giving two solutions; a Sudoku has one. So". What follows goes on from there. Where
+/// nothing could be swapped, no such thing is claimed: the corners are only supposed to hold
+/// something else.
+std::string corners_differ(const Words& words, const Deduction& deduction,
+                           const std::string& supposition) {
   if (deduction.certain)
-    return words.say({"on pourrait échanger les %1 aux quatre coins, d'où deux solutions",
-                      "the %1 could be swapped in the four corners, giving two solutions"},
-                     words.all_of(deduction.digits));
-  return words.say({"les coins n'auraient que %1, ce que la technique exclut (pas certain "
-                    "ici : les coins ne sont pas dans deux régions)",
-                    "the four corners would hold just %1, which the technique rules out (not "
-                    "certain here: the corners do not lie in two boxes)"},
-                   words.all_of(deduction.digits));
-}
-
-/// What the conclusion begins with.
-std::string therefore(const Words& words, const Deduction& deduction) {
-  return words.say(deduction.certain ? Text{"Donc", "So"} : Text{"Si c'est juste,", "If so,"});
+    return words.say(
+        {"%2, on pourrait échanger les %1 aux coins, or un sudoku n'a qu'une solution. Donc",
+         "%2, the %1 could be swapped in the corners, giving two solutions; a Sudoku has one. So"},
+        words.all_of(deduction.digits), supposition);
+  return words.say(
+      {"On suppose que les coins n'ont pas que %1 (pas certain ici : les coins ne sont "
+       "pas dans deux régions). Si c'est juste,",
+       "It is assumed that the corners do not hold just %1 (not certain here: the "
+       "corners do not lie in two boxes). If that is right,"},
+      words.all_of(deduction.digits));
 }
 
 }  // namespace
 
 std::string tell_odd_corner(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
-  return words.say({"%1. Si %2 était %3 aussi, %4.", "%1. If %2 were %3 too, %4."},
-                   cells_told(words, deduction), words.all_of(deduction.cells_as(Role::roof)),
-                   words.one_of(deduction.digits), told_swap(words, deduction));
+  const std::string odd = words.all_of(deduction.cells_as(Role::roof));
+  return words.say({"%1. %2 %3 n'est ni %4 ni %5.", "%1. %2 %3 is neither %4 nor %5."},
+                   cells_told(words, deduction),
+                   corners_differ(words, deduction,
+                                  words.say({"Si %1 était %2 aussi", "If %1 were %2 too"}, odd,
+                                            words.one_of(deduction.digits))),
+                   odd, nth(deduction.digits, 1), nth(deduction.digits, 2));
 }
 
 std::string tell_shared_digit(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
   const CellSet& roof = deduction.cells_as(Role::roof);
   const int digit = removed_digits(deduction).first();
-  return words.say({"%1. Si ni %2 n'était %3, %4. %5 %6.", "%1. If neither %2 were %3, %4. %5 %6."},
-                   cells_told(words, deduction), words.none_of(roof), digit,
-                   told_swap(words, deduction), therefore(words, deduction),
-                   who_sees(words, deduction, losers(deduction), [&](int) { return roof; }));
+  const Text supposition = roof.count() == 2 ? Text{"Si ni %1 n'était %2", "If neither %1 were %2"}
+                                             : Text{"Si ni %1 n'était %2", "If none of %3 were %2"};
+  return words.say(
+      {"%1. %2 %3.", "%1. %2 %3."}, cells_told(words, deduction),
+      corners_differ(words, deduction,
+                     words.say(supposition, words.none_of(roof), digit, words.all_of(roof))),
+      who_sees(words, deduction, losers(deduction), [&](int) { return roof; }));
 }
 
 std::string tell_bound_to_roof(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
-  const auto places = premises_of<DigitInUnit>(deduction);
-  const CellSet& roof = deduction.cells_as(Role::roof);
-  const int first = *roof.begin(), second = *(roof - CellSet{first}).begin();
-  return words.say({"%1. %2. Si %3 est %5 et %4 %6, ou l'inverse, %7. %8 aucune n'est %6.",
-                    "%1. %2. If %3 is %5 and %4 is %6, or the other way round, %7. %8 neither is "
-                    "%6."},
-                   cells_told(words, deduction), capital(in_their_units(words, places)),
-                   cell_at(first), cell_at(second), places.front().digit,
-                   removed_digits(deduction).first(), told_swap(words, deduction),
-                   therefore(words, deduction));
-}
-
-std::string tell_bound_to_diagonal(const Words& words, const ToldStep& step) {
-  const Deduction& deduction = step.deduction();
   const int removed = removed_digits(deduction).first();
-  const CellSet& open = deduction.cells_as(Role::roof);
-  return words.say({"%1. %2. Si %3 est %5, l'autre aussi, et %4 sont %6 : %7.",
-                    "%1. %2. If %3 is %5, so is the other, and %4 are %6: %7."},
+  const std::string supposition =
+      words.say({"Si l'autre était %1", "If the other one were %1"}, removed);
+  return words.say({"%1. %2. %3 ni %5 n'est %4.", "%1. %2. %3 neither %5 is %4."},
                    cells_told(words, deduction),
                    capital(in_their_units(words, premises_of<DigitInUnit>(deduction))),
-                   words.one_of(open), words.all_of(deduction.cells_as(Role::pattern) - open),
-                   removed, (deduction.digits - NineSet{removed}).first(),
-                   told_swap(words, deduction));
+                   corners_differ(words, deduction, supposition), removed,
+                   words.none_of(deduction.cells_as(Role::roof)));
+}
+
+/// The two lines take so much room that the rest is told in fewer words.
+std::string tell_bound_to_diagonal(const Words& words, const ToldStep& step) {
+  const Deduction& deduction = step.deduction();
+  const Text rest =
+      deduction.certain
+          ? Text{"%1. %2. Si %3 était %4, l'autre aussi : les %5 pourraient s'échanger, or il n'y a "
+                 "qu'une solution. Donc aucune n'est %4.",
+                 "%1. %2. If %3 were %4, both would be: the %5 could be swapped in the corners, "
+                 "but a Sudoku has only one solution. So neither is %4."}
+          : Text{"%1. %2. Si %3 est %4, l'autre aussi. Si les coins n'ont pas que %5 (pas certain "
+                 "ici : les coins ne sont pas dans deux régions), aucune n'est %4.",
+                 "%1. %2. If %3 is %4, both are. If not all corners are %6 (not certain here: the "
+                 "corners do not lie in two boxes), neither is %4."};
+  return words.say(rest, cells_told(words, deduction),
+                   capital(in_their_units(words, premises_of<DigitInUnit>(deduction))),
+                   words.one_of(deduction.cells_as(Role::roof)), removed_digits(deduction).first(),
+                   words.all_of(deduction.digits), words.one_of(deduction.digits));
 }
 
 std::string tell_avoidable(const Words& words, const ToldStep& step) {

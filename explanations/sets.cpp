@@ -28,8 +28,7 @@ std::string tell_naked_pair(const Words& words, const ToldStep& step) {
 
 std::string tell_naked_set(const Words& words, const ToldStep& step) {
   const Deduction& deduction = step.deduction();
-  return words.say({"dans %1, %2. Ces %3 cases se partagent %4 : les autres cases de %1 n'en ont "
-                    "aucun.",
+  return words.say({"dans %1, %2. Ces %3 cases se partagent %4 : aucune autre de %1 n'en a.",
                     "in %1, %2. These %3 cells share out %4, so the other cells of %1 have none of "
                     "them."},
                    deduction.unit, can_only_be(words, premises_of<CellHolds>(deduction)),

@@ -38,7 +38,9 @@ std::vector<std::string> excluding_units(const Words& words, const Position& pos
         std::ranges::max(units_of(cell), {}, [&](Unit unit) { return excluded(unit).count(); });
     const NineSet digits = excluded(best);
     if (digits.empty()) return clauses;
-    clauses.push_back(words.say({"%1 a %2", "%1 has %2"}, best, words.all_of(digits)));
+    clauses.push_back(words.say(
+        digits.count() == 1 ? Text{"%1 a le %2", "%1 has %2"} : Text{"%1 a les %2", "%1 has %2"},
+        best, words.all_of(digits)));
     open = open - digits;
   }
 }
@@ -143,7 +145,7 @@ std::string tell_hidden_single(const Words& words, const ToldStep& step) {
   const std::string where = words.say(
       found == told ? Text{"dans %1", "in %1"} : Text{"dans %1 (et dans %2)", "in %1 (and in %2)"},
       told, found);
-  return words.say({"%1 le %2 ne va qu'en %3%4.", "%1 the %2 can only go in %3%4."}, where, digit,
+  return words.say({"%1, le %2 ne va qu'en %3%4.", "%1, the %2 can only go in %3%4."}, where, digit,
                    cell,
                    clauses.empty() ? "" : words.say({" : %1", ": %1"}, words.listed(clauses)));
 }

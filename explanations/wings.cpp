@@ -54,7 +54,7 @@ std::string consequences(const Words& words, const Wing& wing) {
                                 alternative, words.all_of(pincers), wing.digit));
   }
   if (wing.may_be_pivot())
-    clauses.push_back(words.say({"sinon elle est %1", "else it is %1"}, wing.digit));
+    clauses.push_back(words.say({"sinon elle est %1", "otherwise it is %1"}, wing.digit));
   return words.listed(clauses);
 }
 
@@ -82,13 +82,13 @@ Cell end_for(const CellSet& ends, int cell, int other) {
   return cell_at(*ends.begin());
 }
 
-/// "In r4c1 it makes r1c1 a 5; in r4c5 it makes r2c5 a 5."
+/// "In r4c1 it makes r1c1 a 5; in r4c5 it makes r2c5 a 5. Either way"
 std::string link_consequences(const Words& words, const DigitInUnit& link, int p, int q,
                               int removed) {
   const Cell end_p = end_for(link.cells, p, q);
   const Cell end_q = cell_at(*(link.cells - CellSet{end_p.number()}).begin());
-  return words.say({"%1. En %2, il fait de %3 %6 ; en %4, il fait de %5 %6.",
-                    "%1. In %2 it makes %3 %6; in %4 it makes %5 %6."},
+  return words.say({"%1. En %2, il fait de %3 %6 ; en %4, il fait de %5 %6. Dans les deux cas,",
+                    "%1. In %2 it makes %3 %6; in %4 it makes %5 %6. Either way"},
                    capital(in_their_units(words, {link})), end_p, cell_at(p), end_q, cell_at(q),
                    words.a(removed));
 }
@@ -101,14 +101,13 @@ std::string tell_w_wing(const Words& words, const ToldStep& step) {
   const int removed = removed_digits(deduction).first();
   const int p = *pair.begin(), q = *(pair - CellSet{p}).begin();
   const auto links = premises_of<DigitInUnit>(deduction);
-  return words.say({"%1. %2 Une case qui voit %3 ne peut être %4.",
-                    "%1. %2 A cell that sees both %3 cannot be %4."},
+  return words.say({"%1. %2 %3.", "%1. %2 %3."},
                    can_only_be(words, premises_of<CellHolds>(deduction)),
-                   links.empty() ? words.say({"Elles se voient : l'une est %1.",
-                                              "They see each other: one of them is %1."},
+                   links.empty() ? words.say({"Elles se voient : l'une est %1. Donc",
+                                              "They see each other: one of them is %1. So"},
                                              removed)
                                  : link_consequences(words, links.front(), p, q, removed),
-                   words.all_of(pair), removed);
+                   who_sees(words, deduction, losers(deduction), [&](int) { return pair; }));
 }
 
 }  // namespace sdk

@@ -9,14 +9,16 @@ std::string Words::told(Cell cell) const {
   return say({"L%1C%2", "r%1c%2"}, cell.row, cell.column);
 }
 
-std::string Words::told(Unit unit) const {
+std::string Words::told(Unit unit) const { return say({"la %1", "%1"}, bare(unit)); }
+
+std::string Words::bare(Unit unit) const {
   switch (unit.kind) {
     case UnitKind::row:
-      return say({"la ligne %1", "row %1"}, unit.number);
+      return say({"ligne %1", "row %1"}, unit.number);
     case UnitKind::column:
-      return say({"la colonne %1", "column %1"}, unit.number);
+      return say({"colonne %1", "column %1"}, unit.number);
     default:
-      return say({"la région %1", "box %1"}, unit.number);
+      return say({"région %1", "box %1"}, unit.number);
   }
 }
 

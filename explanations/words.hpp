@@ -42,6 +42,9 @@ class Words {
   /// "a nor b", "a nor b nor c".
   std::string none_of(const CellSet& cells) const;
 
+  /// The unit without its article: « ligne 4 ».
+  std::string bare(Unit unit) const;
+
   /// "two", "three" or "four".
   std::string number(int n) const;
   /// "a 5", "an 8".

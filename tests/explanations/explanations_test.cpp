@@ -80,13 +80,13 @@ TEST_F(Explanations, WWing) {
   EXPECT_EQ(
       english(),
       "W-wing: r1c1 and r2c5 can only be 5 or 9. In row 4, the 9 can only go in r4c1 or r4c5. "
-      "In r4c1 it makes r1c1 a 5; in r4c5 it makes r2c5 a 5. A cell that sees both r1c1 and "
-      "r2c5 cannot be 5. To remove: 5 from r1c5.");
+      "In r4c1 it makes r1c1 a 5; in r4c5 it makes r2c5 a 5. Either way r1c5 sees a 5 in r1c1 or "
+      "r2c5. To remove: 5 from r1c5.");
   EXPECT_EQ(french(),
             set_in_french(
                 "Aile W (W-wing)~: L1C1 et L2C5 ne peuvent être que 5 ou 9. Dans la ligne 4, le 9 "
                 "ne va qu'en L4C1 ou L4C5. En L4C1, il fait de L1C1 un 5~; en L4C5, il fait de "
-                "L2C5 un 5. Une case qui voit L1C1 et L2C5 ne peut être 5. À retirer~: 5 de "
+                "L2C5 un 5. Dans les deux cas, L1C5 voit un 5 en L1C1 ou L2C5. À retirer~: 5 de "
                 "L1C5."));
 }
 
@@ -95,14 +95,14 @@ TEST_F(Explanations, FinnedXWing) {
   fire(technique_named("finned_x_wing"));
   EXPECT_EQ(english(),
             "Finned X-wing: in row 2, the 4 can only go in r2c6 or r2c9; in row 5, only in r5c4, "
-            "r5c6 or r5c9. If r5c4 is not 4, columns 6 and 9 have one of these 4s each; if it is, "
+            "r5c6 or r5c9. If r5c4 is not 4, columns 6 and 9 have their 4 in row 2 or 5; if it is, "
             "r6c6 sees it. Either way r6c6 is not 4. To remove: 4 from r6c6.");
   EXPECT_EQ(
       french(),
       set_in_french(
           "Aile X à aileron (finned X-wing)~: dans la ligne 2, le 4 ne va qu'en L2C6 ou "
-          "L2C9~; dans la ligne 5, qu'en L5C4, L5C6 ou L5C9. Si L5C4 n'est pas 4, les "
-          "colonnes 6 et 9 ont chacune un 4 de ces lignes~; sinon L6C6 la voit. Dans les deux cas, "
+          "L2C9~; ligne 5, qu'en L5C4, L5C6 ou L5C9. Si L5C4 n'est pas 4, les "
+          "colonnes 6 et 9 ont leur 4 en ligne 2 ou 5~; sinon L6C6 voit ce 4. Dans les deux cas, "
           "L6C6 n'est pas 4. À retirer~: 4 de L6C6."));
 }
 
@@ -111,7 +111,7 @@ TEST_F(Explanations, FinnedXWingWithoutAFin) {
   fire(technique_named("finned_x_wing"));
   EXPECT_EQ(english(),
             "Finned X-wing, without a fin: in row 2, the 5 can only go in r2c3 or r2c8; in row 6, "
-            "only in r6c3 or r6c8. So columns 3 and 8 have one of these 5s each, and r9c3 is not "
+            "only in r6c3 or r6c8. So columns 3 and 8 have their 5 in row 2 or 6, and r9c3 is not "
             "5. To remove: 5 from r9c3.");
 }
 
@@ -125,8 +125,9 @@ TEST_F(Explanations, UniqueRectangleWithOneExtraDigitInThreeCorners) {
   fire(technique_named("unique_rectangle"));
   EXPECT_EQ(english(),
             "Unique rectangle: r4c4 can only be 3 or 8; r4c5, r7c4 and r7c5 only 3, 5 or 8. If "
-            "neither r4c5 nor r7c4 nor r7c5 were 5, the 3 and 8 could be swapped in the four "
-            "corners, giving two solutions. So r8c5 sees a 5 in r4c5, r7c4 or r7c5. To remove: 5 "
+            "none of r4c5, r7c4 and r7c5 were 5, the 3 and 8 could be swapped in the "
+            "corners, giving two solutions; a Sudoku has one. So r8c5 sees a 5 in r4c5, r7c4 "
+            "or r7c5. To remove: 5 "
             "from r8c5.");
 }
 
@@ -134,15 +135,31 @@ TEST_F(Explanations, ARectangleInFourBoxesAssertsNothing) {
   hold({{{2, 1}, {3, 8}}, {{2, 8}, {3, 8}}, {{5, 1}, {3, 8}}, {{5, 8}, {3, 8, 9}}});
   fire(technique_named("unique_rectangle"));
   EXPECT_EQ(english(),
-            "Unique rectangle: r2c1, r2c8 and r5c1 can only be 3 or 8. If r5c8 were 3 or 8 too, "
-            "the four corners would hold just 3 and 8, which the technique rules out (not certain "
-            "here: the corners do not lie in two boxes). To remove: 3 and 8 from r5c8.");
+            "Unique rectangle: r2c1, r2c8 and r5c1 can only be 3 or 8. It is assumed that the "
+            "corners do not hold just 3 and 8 (not certain here: the corners do not lie in two "
+            "boxes). If that is right, r5c8 is neither 3 nor 8. To remove: 3 and 8 from r5c8.");
+  EXPECT_EQ(
+      french(),
+      set_in_french(
+          "Rectangle unique~: L2C1, L2C8 et L5C1 ne peuvent être que 3 ou 8. On suppose que les "
+          "coins n'ont pas que 3 et 8 (pas certain ici~: les coins ne sont pas dans deux "
+          "régions). Si c'est juste, L5C8 n'est ni 3 ni 8. À retirer~: 3 et 8 de L5C8."));
+}
+
+TEST_F(Explanations, ADigitBoundToADiagonalInFourBoxesIsToldBriefly) {
+  hold({{{2, 1}, {3, 8}}, {{2, 8}, {3, 8, 9}}, {{5, 1}, {3, 7, 8}}, {{5, 8}, {3, 8}}});
+  fire(technique_named("unique_rectangle"));
+  EXPECT_EQ(english(),
+            "Unique rectangle: r2c1 and r5c8 can only be 3 or 8. In row 2, the 3 can only go in "
+            "r2c1 or r2c8; in row 5, only in r5c1 or r5c8. If r2c8 or r5c1 is 3, both are. If not "
+            "all corners are 3 or 8 (not certain here: the corners do not lie in two boxes), "
+            "neither is 3. To remove: 3 from r2c8 and r5c1.");
   EXPECT_EQ(french(),
             set_in_french(
-                "Rectangle unique~: L2C1, L2C8 et L5C1 ne peuvent être que 3 ou 8. Si L5C8 était 3 "
-                "ou 8 aussi, les coins n'auraient que 3 et 8, ce que la technique exclut (pas "
-                "certain ici~: les coins ne sont pas dans deux régions). À retirer~: 3 et 8 de "
-                "L5C8."));
+                "Rectangle unique~: L2C1 et L5C8 ne peuvent être que 3 ou 8. Dans la ligne 2, le 3 "
+                "ne va qu'en L2C1 ou L2C8~; ligne 5, qu'en L5C1 ou L5C8. Si L2C8 ou L5C1 est 3, "
+                "l'autre aussi. Si les coins n'ont pas que 3 et 8 (pas certain ici~: les coins ne "
+                "sont pas dans deux régions), aucune n'est 3. À retirer~: 3 de L2C8 et L5C1."));
 }
 
 TEST_F(Explanations, AvoidableRectangle) {
@@ -163,11 +180,12 @@ TEST_F(Explanations, AColourThatSeesItself) {
   hold({{{1, 1}, {4}}, {{1, 5}, {4}}, {{6, 5}, {4}}, {{6, 2}, {4}}, {{2, 2}, {4}}, {{3, 3}, {4}}});
   fire(technique_named("simple_colouring"));
   EXPECT_EQ(english(),
-            "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c5; in column 5, only in "
-            "r1c5 or r6c5; in row 6, only in r6c2 or r6c5; in column 2, only in r2c2 or r6c2. So "
-            "it stands in every cell of one colour and none of the other: either r1c1, r2c2 and "
-            "r6c5, or r1c5 and r6c2. But r1c1 and r2c2 see each other and cannot both be 4: their "
-            "colour is false. To remove: 4 from r1c1, r2c2 and r6c5.");
+            "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c5; in column 5, only "
+            "in r1c5 or r6c5; in row 6, only in r6c2 or r6c5; in column 2, only in r2c2 or "
+            "r6c2. Two colours alternate on these cells; the 4 fills all of one and none of the "
+            "other: either r1c1, r2c2 and r6c5, or r1c5 and r6c2. But r1c1 and r2c2 see each "
+            "other and cannot both be 4: their colour is false. To remove: 4 from r1c1, r2c2 "
+            "and r6c5.");
 }
 
 TEST_F(Explanations, PartsOfAColouringThatNothingJoinsAreToldOneByOne) {
@@ -182,11 +200,11 @@ TEST_F(Explanations, PartsOfAColouringThatNothingJoinsAreToldOneByOne) {
   fire(technique_named("simple_colouring"));
   EXPECT_EQ(
       english(),
-      "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c3. So it stands in every "
-      "cell of one colour and none of the other: either r1c1, or r1c3. Either way r2c2 sees a "
-      "4 in r1c1 or r1c3. In row 8, the 4 can only go in r8c7 or r8c9. So it stands in every "
-      "cell of one colour and none of the other: either r8c7, or r8c9. Either way r9c8 sees a "
-      "4 in r8c7 or r8c9. To remove: 4 from r2c2 and r9c8.");
+      "Simple colouring: in row 1, the 4 can only go in r1c1 or r1c3. Two colours alternate on "
+      "these cells; the 4 fills all of one and none of the other: either r1c1, or r1c3. Either "
+      "way r2c2 sees a 4 in r1c1 or r1c3. In row 8, the 4 can only go in r8c7 or r8c9. Two "
+      "colours alternate on these cells; the 4 fills all of one and none of the other: either "
+      "r8c7, or r8c9. Either way r9c8 sees a 4 in r8c7 or r8c9. To remove: 4 from r2c2 and r9c8.");
 }
 
 TEST_F(Explanations, DigitsThatLeaveTheSameCellsAreToldTogether) {
@@ -215,10 +233,11 @@ TEST_F(Explanations, ANakedSingleNamesFewUnitsAndTheStepsBefore) {
   EXPECT_EQ(english(),
             "Naked single: r1c1 can only be 5: row 1 has 2, 3 and 7; column 1 has 1 and 9; box 1 "
             "has 8; step 1 removed the 6; step 2 removed the 4.");
-  EXPECT_EQ(french(),
-            set_in_french("Singleton nu~: L1C1 ne peut être que 5~: la ligne 1 a 2, 3 et 7~; la "
-                          "colonne 1 a 1 et 9~; la région 1 a 8~; l'étape 1 a retiré le 6~; "
-                          "l'étape 2 a retiré le 4."));
+  EXPECT_EQ(
+      french(),
+      set_in_french("Singleton nu~: L1C1 ne peut être que 5~: la ligne 1 a les 2, 3 et 7~; la "
+                    "colonne 1 a les 1 et 9~; la région 1 a le 8~; l'étape 1 a retiré le 6~; "
+                    "l'étape 2 a retiré le 4."));
 }
 
 TEST_F(Explanations, AHiddenSingleIsToldByItsBoxWhereItIsAloneInThat) {
@@ -231,10 +250,10 @@ TEST_F(Explanations, AHiddenSingleIsToldByItsBoxWhereItIsAloneInThat) {
   add_removal(4, {75});
   fire(technique_named("hidden_single"));
   EXPECT_EQ(english(),
-            "Hidden single: in box 7 (and in row 9) the 4 can only go in r9c2: r7c1 sees the 4 in "
+            "Hidden single: in box 7 (and in row 9), the 4 can only go in r9c2: r7c1 sees the 4 in "
             "r7c6; step 1 took it from r9c3.");
   EXPECT_EQ(french(),
-            set_in_french("Singleton caché~: dans la région 7 (et dans la ligne 9) le 4 ne va "
+            set_in_french("Singleton caché~: dans la région 7 (et dans la ligne 9), le 4 ne va "
                           "qu'en L9C2~: L7C1 voit le 4 en L7C6~; l'étape 1 l'a retiré de L9C3."));
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "explanations/told_step.hpp"
 #include "tests/explanations/told_case.hpp"
 
 namespace sdk::test {
@@ -64,15 +65,59 @@ void judge_fish(ToldCase& told) {
   }
 }
 
+/// The lines have their digit on the base lines, but for what fins say.
+void judge_wing(ToldCase& told, const WingOf& wing) {
+  CellSet fins;
+  for (const FinsOr& one : told.claims.fins) fins |= one.fins;
+  NineSet bases;
+  for (const DigitInUnit& line : told.claims.units) {
+    bases.insert(line.unit.number);
+    const CellSet cells = (line.cells - fins) | told.deduction().losers_of(line.digit);
+    told.expect(wing.covers == lines_across(line.unit, cells), "other covers");
+    told.expect(wing.digit == line.digit, "a wing of another digit");
+  }
+  told.expect(wing.bases == bases, "other base lines");
+}
+
 void judge_fins(ToldCase& told) {
-  for (const auto& [fins, covers, target] : told.claims.fins) {
+  for (const WingOf& wing : told.claims.wings) judge_wing(told, wing);
+  for (const auto& [fins, target, digits] : told.claims.fins) {
     told.expect(see_all(target, fins), "a fin out of sight");
+    told.expect(told.claims.wings.size() == 1, "fins without a wing");
     for (const DigitInUnit& line : told.claims.units) {
-      told.expect(covers.contains_all(lines_across(line.unit, line.cells - fins)), "no cover");
-      told.expect(covers.contains_all(lines_across(line.unit, target)), "no cover of the target");
       told.expect(told.deduction().losers_of(line.digit) == target, "another target");
+      told.expect(digits == NineSet{line.digit}, "fins of another digit");
     }
   }
+}
+
+void judge_refusal(ToldCase& told, const Refusal& refusal) {
+  const CellSet& roof = told.deduction().cells_as(Role::roof);
+  told.expect(refusal.cells.empty() || refusal.cells == roof, "a refusal of another cell");
+  told.expect(refusal.digits.count() == 1 || refusal.digits == told.deduction().digits,
+              "a refusal of other digits");
+  for (int digit = 1; digit <= 9; ++digit) {
+    const CellSet& losers = told.deduction().losers_of(digit);
+    told.expect(refusal.digits.contains(digit) || losers.empty(), "another refusal");
+    told.expect((losers - roof).empty(), "a refusal of too few cells");
+  }
+}
+
+/// A rectangle ends with what its corners are not, or with who sees the corners that have one more
+/// digit.
+void judge_rectangle(ToldCase& told, const OneSolution& fact) {
+  const Claims& claims = told.claims;
+  told.expect(claims.refusals.size() == (claims.sights.empty() ? 1 : 0), "no conclusion");
+  for (const Refusal& refusal : claims.refusals) judge_refusal(told, refusal);
+  for (const Sight& sight : claims.sights)
+    for (const int corner : fact.corners)
+      told.expect(sight.holders.contains(corner) == told.digits(corner).contains(sight.digit),
+                  "other corners");
+}
+
+void judge_rectangles(ToldCase& told) {
+  for (const OneSolution& fact : premises_of<OneSolution>(told.deduction()))
+    judge_rectangle(told, fact);
 }
 
 /// What is denied leads to one of the cells that are seen.
@@ -128,6 +173,7 @@ void judge_reasons(ToldCase& told) {
   judge_fish(told);
   judge_fins(told);
   judge_denials(told);
+  judge_rectangles(told);
   judge_colours(told);
   judge_clash(told);
 }

@@ -34,6 +34,7 @@ struct Statement {
     CellSet named = told.claims.corner;
     for (const CellHolds& cell : told.claims.cells) named.insert(cell.cell);
     for (const DigitInUnit& line : told.claims.units) named |= line.cells;
+    for (const Refusal& refusal : told.claims.refusals) named |= refusal.cells;
     NineSet boxes;
     for (const int cell : fact.corners) boxes.insert(cell_at(cell).box());
     const bool can_be_swapped = boxes.count() == 2;

@@ -96,6 +96,9 @@ TEST(SentenceJudge, NoticesWhatIsLeftOut) {
                                {"xy_wing", "; r6c2 only 2 or 5", ""},
                                {"x_wing", "; in row 6, only in r6c3 or r6c8", ""},
                                {"unique_rectangle", "could be swapped", "are unlucky"},
+                               {"unique_rectangle", "; a Sudoku has one", ""},
+                               {"unique_rectangle", "So r6c3 is neither 1 nor 2. ", ""},
+                               {"finned_x_wing", " have their ", " lack their "},
                                {"simple_colouring", " from r2c2 and r3c1", " from r2c2"}}) {
     const Hint hint = hint_on_board(change.technique);
     const std::string sentence = explain(hint, "En").front();

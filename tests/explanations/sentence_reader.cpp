@@ -74,14 +74,14 @@ class Reader {
   Reader(const std::string& text, const Turns& turns) : turns_(turns), text_(text) {}
 
   Claims read() {
+    read_doubts();
+    read_removals();
     read_names();
     read_candidates();
     read_reasons();
     read_fish();
     read_rectangles_and_colours();
     read_singles();
-    read_doubts();
-    read_removals();
     return claims_;
   }
 
@@ -141,6 +141,11 @@ class Reader {
     each(turns_.sees, [&](const Match& match) {
       claims_.sights.push_back({cells_in(match[1]), cells_in(match[3]), std::stoi(match[2])});
     });
+    each(turns_.losers_see, [&](const Match& match) {
+      const int digit = std::stoi(match[1]);
+      claims_.sights.push_back(
+          {claims_.removed[static_cast<std::size_t>(digit)], cells_in(match[2]), digit});
+    });
     each(turns_.if_it_is, [&](const Match& match) {
       claims_.consequences.push_back(
           {std::stoi(match[1]), {}, cells_in(match[2]), std::stoi(match[3])});
@@ -155,8 +160,12 @@ class Reader {
       claims_.chained.push_back({cells_in(match[1]), cells_in(match[2])});
     });
     each(turns_.covers, [&](const Match& match) { claims_.covers = digits_in(match[1]); });
+    each(turns_.wing, [&](const Match& match) {
+      claims_.wings.push_back({digits_in(match[1]), std::stoi(match[2]), digits_in(match[3])});
+    });
     each(turns_.fins, [&](const Match& match) {
-      claims_.fins.push_back({cells_in(match[1]), digits_in(match[2]), cells_in(match[3])});
+      claims_.fins.push_back(
+          {cells_in(match[1]), cells_in(match[3]), digits_in(match[2]) | digits_in(match[4])});
     });
   }
   void read_rectangles_and_colours() {
@@ -166,6 +175,12 @@ class Reader {
     each(turns_.corner, [&](const Match& match) { claims_.corner = cells_in(match[1]); });
     each(turns_.swapped, [&](const Match& match) { claims_.swapped = digits_in(match[1]); });
     each(turns_.ruled_out, [&](const Match& match) { claims_.ruled_out = digits_in(match[1]); });
+    each(turns_.is_no, [&](const Match& match) {
+      claims_.refusals.push_back({cells_in(match[1]), digits_in(match[2]) | digits_in(match[3])});
+    });
+    each(turns_.neither_is, [&](const Match& match) {
+      claims_.refusals.push_back({cells_in(match[1]), digits_in(match[2])});
+    });
     each(turns_.colours, [&](const Match& match) {
       claims_.colours.push_back({cells_in(match[1]), cells_in(match[2])});
     });

@@ -49,14 +49,26 @@ struct Chained {
   CellSet cause, effect;
 };
 
-/// "If r5c4 is not 4, columns 6 and 9 have one of these 4s each; if it is, r6c6 sees it".
-struct FinsOr {
-  CellSet fins;
+/// "columns 6 and 9 have their 4 in row 2 or 5".
+struct WingOf {
   NineSet covers;
-  CellSet target;
+  int digit;
+  NineSet bases;
 };
 
-/// "If neither r4c5 nor r7c4 were 5".
+/// "If r5c4 is not 4, ...; if it is, r6c6 sees it".
+struct FinsOr {
+  CellSet fins, target;
+  NineSet digits;  ///< all that it is said to be
+};
+
+/// "So r5c8 is neither 3 nor 8", "So neither r1c2 nor r7c9 is 3"; without cells "So neither is 3".
+struct Refusal {
+  CellSet cells;
+  NineSet digits;
+};
+
+/// "If neither r4c5 nor r7c4 were 5", "If none of r4c5, r7c4 and r7c5 were 5".
 struct Denial {
   CellSet cells;
   int digit;
@@ -77,10 +89,12 @@ struct Claims {
   std::vector<Colours> colours;
   CellSet clash;  ///< two of one colour
   std::vector<Chained> chained;
+  std::vector<WingOf> wings;
   std::vector<FinsOr> fins;
   NineSet covers;  ///< lines that have their digit on others
   CellSet corner;  ///< that would make a rectangle
   std::vector<Denial> denials;
+  std::vector<Refusal> refusals;
   NineSet swapped;    ///< that could be swapped in the four corners
   NineSet ruled_out;  ///< that the corners are only supposed not to hold
   int rests_on = 0;   ///< the step that is not certain

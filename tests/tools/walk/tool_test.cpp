@@ -249,11 +249,10 @@ TEST(Walk, ExplainsInEnglishAndFrench) {
   EXPECT_EQ(
       walk(line, "--explain fr").output,
       "grid " + nearly_full +
-          "\n1. Singleton nu\u00A0: L1C1 ne peut être que 1\u00A0: la ligne 1 a 2, 3, 4, 5, 6, 7, "
-          "8 "
-          "et 9.\n"
-          "1. Singleton nu\u00A0: L9C9 ne peut être que 5\u00A0: la ligne 9 a 1, 2, 3, 4, 6, 7, 8 "
-          "et 9.\n"
+          "\n1. Singleton nu\u00A0: L1C1 ne peut être que 1\u00A0: la ligne 1 a les 2, 3, 4, 5, 6, "
+          "7, 8 et 9.\n"
+          "1. Singleton nu\u00A0: L9C9 ne peut être que 5\u00A0: la ligne 9 a les 1, 2, 3, 4, 6, "
+          "7, 8 et 9.\n"
           "1. La grille est terminée.\n");
 }
 
