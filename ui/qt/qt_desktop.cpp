@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -37,9 +38,20 @@ QString in_language_on_screen(const std::string& text) {
   return QString::fromStdString(text).replace(words("En"), words(globals.Langue));
 }
 
-/// The window that boxes stand over; null before it is shown, and then Qt puts a box in the middle
-/// of the screen.
+/// The window that boxes stand over; null before it is shown.
 QWidget* shown(QWidget* window) { return window && window->isVisible() ? window : nullptr; }
+
+/// Without a window it stands in the middle of the screen.
+class Box : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);  // finds the size
+    if (!parentWidget()) move(screen()->availableGeometry().center() - rect().center());
+  }
+};
 
 /// Puts a box over the upper edge of its window, so that it hides no cell that it speaks of.
 void place(QMessageBox& box, const QWidget* window) {
@@ -63,8 +75,8 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   language_.follow();
   QWidget* window = shown(window_);
   const bool asks = buttons == Buttons::yes_no;
-  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), in_language_on_screen(text),
-                  asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window);
+  Box box(QMessageBox::NoIcon, QString::fromStdString(title), in_language_on_screen(text),
+          asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
   set_picture(box, icon);
