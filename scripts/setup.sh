@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the system packages that are missing for what is to be done.
-#   scripts/setup.sh SET...    with SET one of: play picture test bench check package fresh-root fuzz
+#   scripts/setup.sh SET...    with SET one of: play picture test bench check package keyboards fresh-root fuzz
 # With everything there it only asks the package database, and changes nothing.
 # SUDOKU_SETUP=skip leaves the packages to you.
 set -euo pipefail
@@ -18,6 +18,7 @@ packages_for() {
     check) echo clang-format universal-ctags ;;
     package) echo dpkg-dev file lintian desktop-file-utils appstream shared-mime-info \
       libglib2.0-bin man-db groff xdotool xclip ;;
+    keyboards) echo xvfb xdotool xclip x11-xkb-utils xkb-data ;;
     fresh-root) echo debootstrap ;;
     fuzz) echo clang libclang-rt-dev ;;
     *) echo "scripts/setup.sh: no set of packages is called $1" >&2 && return 1 ;;

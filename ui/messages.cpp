@@ -72,6 +72,7 @@ constexpr NoticeText notice_texts[] = {
     {Notice::fatal_not_saved,
      {"SuDoKu doit s'arrêter (%1). La grille n'a pas pu être sauvée (%2)",
       "SuDoKu has to stop (%1). The grid could not be saved (%2)"}},
+    {Notice::empty_file, {"le fichier est vide", "the file is empty"}},
     {Notice::cell, {"ligne %1, colonne %2", "row %1, column %2"}},
     {Notice::empty, {"vide", "empty"}},
     {Notice::puzzle, {"Grille", "Puzzle"}},

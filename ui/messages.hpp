@@ -19,6 +19,7 @@ enum class Notice {
   fatal,            ///< %1 what failed and why; there was no grid to save
   fatal_saved,      ///< %1 what failed and why, %2 the file the grid was saved in
   fatal_not_saved,  ///< %1 what failed and why, %2 why the grid could not be saved
+  empty_file,       ///< why a file cannot be opened
   cell,             ///< accessible name of a cell: %1 row, %2 column, 1-based
   empty,            ///< accessible content of an empty cell
   puzzle,           ///< accessible name of `MSF`

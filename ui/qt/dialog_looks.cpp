@@ -5,11 +5,16 @@
 
 #include <QAbstractButton>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLocale>
 #include <QMessageBox>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include "game/globals.hpp"
 #include "ui/qt/icons.hpp"
 
 namespace sdk {
@@ -33,6 +38,24 @@ const char* picture_name(Icon icon) {
   return nullptr;
 }
 
+/// Qt tells a file's size in the system's language.
+class SizeDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QFileInfo file(index.siblingAtColumn(0).data(QFileSystemModel::FilePathRole).toString());
+    if (file.isFile()) option->text = language().formattedDataSize(file.size());
+  }
+
+ private:
+  static QLocale language() {
+    return globals.Langue == "Fr" ? QLocale(QLocale::French) : QLocale(QLocale::English);
+  }
+};
+
 }  // namespace
 
 void set_picture(QMessageBox& box, Icon icon) {
@@ -52,12 +75,13 @@ void remove_button_icons(QMessageBox& box) {
 }
 
 void fit_columns(QFileDialog& dialog) {
-  constexpr int type_column = 2;  // of QFileSystemModel
+  constexpr int size_column = 1, type_column = 2;  // of QFileSystemModel
   auto* files = dialog.findChild<QTreeView*>("treeView");
   if (!files) return;
   files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   files->hideColumn(type_column);
+  files->setItemDelegateForColumn(size_column, new SizeDelegate(files));
 }
 
 }  // namespace sdk

@@ -20,8 +20,8 @@ void fit_title(QMessageBox& box);
 /// Takes Qt's pictures off the buttons, which are drawn for small screens too.
 void remove_button_icons(QMessageBox& box);
 
-/// Makes the columns as wide as what they show, and hides the files' type, which is always the
-/// same.
+/// Makes the columns as wide as what they show, hides the files' type, which is always the same,
+/// and tells their sizes in the language on screen.
 void fit_columns(QFileDialog& dialog);
 
 }  // namespace sdk

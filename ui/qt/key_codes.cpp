@@ -11,15 +11,36 @@ namespace sdk {
 
 namespace {
 
-/// The digit that the key produces; -1 for none.
-int digit_of(const QKeyEvent& event) {
+bool is_digit(int code) { return code >= key::digit_1 && code <= key::digit_9; }
+
+/// The digit as a character, which is a code of the core too; 0 when the key produces none. With
+/// Ctrl some digits come as control characters, and only Qt's code of the key tells them.
+int digit_produced_by(const QKeyEvent& event) {
   const QString text = event.text();
-  return text.size() == 1 ? text.front().digitValue() : -1;
+  const int character = text.size() == 1 ? text.front().unicode() : 0;
+  if (is_digit(character)) return character;
+  return is_digit(event.key()) ? event.key() : 0;
 }
 
-int digit_code(const QKeyEvent& event, int digit) {
+/// AltGr, as X11 and Wayland set up every keyboard that has it; Qt's modifiers lack it.
+bool alt_gr_is_down(const QKeyEvent& event) {
+  constexpr quint32 mod5 = 0x80;
+  return event.nativeModifiers() & mod5;
+}
+
+/// The digit that is printed on the key, or on that key of other countries' keyboards; 0 when the
+/// key lies elsewhere. What AltGr chooses is a sign of its own, not the key's digit.
+int digit_at_place_of(const QKeyEvent& event) {
+  constexpr quint32 first_place = 10;  // from left to right, on X11 and Wayland
+  const quint32 place = event.nativeScanCode();
+  const bool in_row = place >= first_place && place < first_place + 9;
+  return in_row && !alt_gr_is_down(event) ? key::digit_1 + int(place - first_place) : 0;
+}
+
+/// As the key that lies on the keypad, when it does.
+int on_its_block(const QKeyEvent& event, int digit) {
   const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
-  return (keypad ? key::keypad_1 : key::digit_1) - 1 + digit;
+  return keypad ? digit - key::digit_1 + key::keypad_1 : digit;
 }
 
 int named_code(int qt_key) {
@@ -48,9 +69,10 @@ KeyCode key_code(const QKeyEvent& event) {
   if (event.matches(QKeySequence::Copy)) return {key::c, true};
   if (event.matches(QKeySequence::SelectAll)) return {key::a, true};
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
-  if (const int digit = digit_of(event); digit >= 0) return {digit_code(event, digit), ctrl};
-  if (is_letter(event.key())) return {event.key(), ctrl};
-  return {named_code(event.key()), ctrl};
+  if (const int digit = digit_produced_by(event)) return {on_its_block(event, digit), ctrl};
+  if (const int named = named_code(event.key())) return {named, ctrl};
+  if (const int digit = digit_at_place_of(event)) return {digit, ctrl};
+  return {is_letter(event.key()) ? event.key() : 0, ctrl};
 }
 
 }  // namespace sdk

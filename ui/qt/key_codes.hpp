@@ -14,8 +14,11 @@ struct KeyCode {
   bool operator==(const KeyCode&) const = default;
 };
 
-/// Digits are known by the character the key produces, so that they work on every keyboard; letters
-/// by their key. Any other key without a meaning gives code 0.
+/// A key that produces 1 to 9 in ASCII gives that digit, wherever it lies. Any other key of the
+/// nine in the digit row gives the digit of its place, with and without Shift, so that keyboards
+/// whose digits need Shift type without it; but neither with AltGr nor when the key is one of
+/// sdk::key. Ctrl changes no digit. Letters are known by their key. Any other key gives code 0, so
+/// no other character that stands for a digit gives one.
 KeyCode key_code(const QKeyEvent& event);
 
 }  // namespace sdk

@@ -5,13 +5,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QScreen>
 #include <algorithm>
 
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/cell_painter.hpp"
-#include "ui/qt/key_codes.hpp"
 #include "ui/qt/object_names.hpp"
 #include "ui/qt/pixels.hpp"
 
@@ -36,11 +34,17 @@ GridView* make_grid(Control control, DisplayGrid& grid, GridLook look, QWidget* 
   return view;
 }
 
+/// What the window's frame offers: all but to maximise a window of one size.
+constexpr Qt::WindowFlags frame_buttons = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                          Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                          Qt::WindowCloseButtonHint;
+
 }  // namespace
 
 // The order of the children is the order of Tab.
 MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
-    : window_(window),
+    : QWidget(nullptr, Qt::Window | frame_buttons),
+      window_(window),
       guard_(guard),
       commands_(new CommandBar(this)),
       rect_(make_frame(Control::rect, this)),
@@ -102,26 +106,6 @@ void MainFrame::connect_grids() {
 void MainFrame::watch_application() {
   qApp->installEventFilter(this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrame::expect_session_end);
-}
-
-/// Sees every event of the program before its receiver does.
-bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
-  if (gate_.stops(watched, event)) return true;
-  const bool is_key = event->type() == QEvent::KeyPress;
-  if (!is_key && event->type() != QEvent::MouseButtonPress) return false;
-  session_ends_ = false;  // the player goes on, so the end of the session was called off
-  const auto* widget = qobject_cast<QWidget*>(watched);
-  if (!is_key || !widget || widget->window() != this) return false;
-  const int code = key_code(*static_cast<QKeyEvent*>(event)).code;
-  if (code != key::f1 && code != key::f2 && code != key::escape) return false;
-  preview(code);
-  return true;
-}
-
-void MainFrame::preview(int code) {
-  const bool left = code == key::escape && explanation_->leave_step();
-  if (!gate_.is_asking()) return guard_.run([&] { window_.preview_key(code); });
-  if (code == key::escape && !left) gate_.return_to_box();
 }
 
 int MainFrame::ask_about_hint(QMessageBox& box) {

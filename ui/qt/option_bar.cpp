@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "ui/qt/accessibility.hpp"
+#include "ui/qt/level_list.hpp"
 #include "ui/qt/object_names.hpp"
 
 namespace sdk {
@@ -68,6 +69,7 @@ OptionBar::OptionBar(QWidget* parent) : QWidget(parent) {
 /// The placeholder is the level that holds, so it reads like a chosen one.
 void OptionBar::take_colours() {
   set_colour(*levels_, QPalette::PlaceholderText, palette().color(QPalette::ButtonText));
+  set_colour(*levels_, QPalette::Base, palette().color(QPalette::Window));
   for (const Box& box : boxes_)
     set_colour(*box.widget, QPalette::Base, check_box_inside(palette()));
 }
@@ -97,7 +99,7 @@ QCheckBox* OptionBar::make_box(Control control) {
 }
 
 QLayout* OptionBar::make_level_row() {
-  levels_ = new QComboBox(this);
+  levels_ = new LevelList(this);
   count_ = make_label(this);
   name_after(*levels_, Control::Niveau);
   name_after(*count_, Control::Label);

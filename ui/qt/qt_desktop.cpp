@@ -9,10 +9,13 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "game/globals.hpp"
 #include "screen/errors.hpp"
+#include "ui/messages.hpp"
 #include "ui/qt/dialog_looks.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/printing_service.hpp"
@@ -26,6 +29,29 @@ QString name_filter(const std::string& filter) {
   const QStringList parts = QString::fromStdString(filter).split('|');
   return parts.value(0) + " (" + parts.value(1) + ")";
 }
+
+/// The core names an empty file in English, for scripts and logs; the player reads his language.
+QString in_language_on_screen(const std::string& text) {
+  const auto words = [](std::string_view language) {
+    return QString::fromStdString(": " + notice(Notice::empty_file, language) + ")");
+  };
+  return QString::fromStdString(text).replace(words("En"), words(globals.Langue));
+}
+
+/// The window that boxes stand over; null before it is shown.
+QWidget* shown(QWidget* window) { return window && window->isVisible() ? window : nullptr; }
+
+/// Without a window it stands in the middle of the screen.
+class Box : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);  // finds the size
+    if (!parentWidget()) move(screen()->availableGeometry().center() - rect().center());
+  }
+};
 
 /// Puts a box over the upper edge of its window, so that it hides no cell that it speaks of.
 void place(QMessageBox& box, const QWidget* window) {
@@ -47,15 +73,16 @@ int QtDesktop::run(QMessageBox& box, bool asks_about_hint) {
 Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons buttons,
                               const std::string& title) {
   language_.follow();
+  QWidget* window = shown(window_);
   const bool asks = buttons == Buttons::yes_no;
-  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
-                  asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window_);
+  Box box(QMessageBox::NoIcon, QString::fromStdString(title), in_language_on_screen(text),
+          asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
   set_picture(box, icon);
   fit_title(box);
   remove_button_icons(box);
-  place(box, window_);
+  place(box, window);
   const int pressed = run(box, asks && icon == Icon::none);
   guard_.rethrow();
   if (!asks) return Answer::ok;

@@ -205,6 +205,34 @@ class ControlsTest : public QObject {
     }
   }
 
+  void a_window_of_one_size_offers_no_maximising() {
+    QVERIFY(!(play_->frame.windowFlags() & Qt::WindowMaximizeButtonHint));
+    for (const auto hint : {Qt::WindowTitleHint, Qt::WindowSystemMenuHint,
+                            Qt::WindowMinimizeButtonHint, Qt::WindowCloseButtonHint})
+      QVERIFY(play_->frame.windowFlags() & hint);
+  }
+
+  void the_level_list_has_the_background_of_the_window_open_and_closed() {
+    auto& levels = play_->find<QComboBox>("Niveau");
+    for (const QPalette& palette :
+         {QPalette(QColor(240, 240, 240)), QPalette(QColor(53, 53, 56), QColor(45, 45, 48))}) {
+      QApplication::setPalette(palette);
+      play_->settle();
+      const QColor window = play_->frame.palette().color(QPalette::Window);
+      const QImage picture = levels.grab().toImage();
+      for (const int y : {3, picture.height() / 2, picture.height() - 4})
+        QCOMPARE(picture.pixelColor(4, y), window);
+      levels.showPopup();
+      play_->settle();
+      const QWidget& list = *levels.view()->viewport();
+      QCOMPARE(list.palette().color(QPalette::Base), window);
+      QCOMPARE(play_->find<QComboBox>("Niveau").view()->grab().toImage().pixelColor(
+                   list.width() - 3, list.height() - 3),
+               window);
+      levels.hidePopup();
+    }
+  }
+
   void the_cells_stay_white_on_a_dark_desktop() {
     QPalette dark(QColor(53, 53, 56), QColor(45, 45, 48));
     QApplication::setPalette(dark);

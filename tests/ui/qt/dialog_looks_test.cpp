@@ -6,6 +6,8 @@
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 #include "tests/ui/qt/play.hpp"
@@ -19,6 +21,25 @@ QImage picture_of(Icon icon) {
   QMessageBox box;
   set_picture(box, icon);
   return box.iconPixmap().toImage();
+}
+
+/// Gives away what a delegate writes into a cell.
+class Delegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::initStyleOption;
+};
+
+QString shown_size(const QTreeView& files, const QString& name) {
+  const QAbstractItemModel& model = *files.model();
+  for (int row = 0; row < model.rowCount(files.rootIndex()); ++row) {
+    if (model.index(row, 0, files.rootIndex()).data() != name) continue;
+    const QModelIndex index = model.index(row, 1, files.rootIndex());
+    QStyleOptionViewItem option;
+    auto* delegate = static_cast<QStyledItemDelegate*>(files.itemDelegateForIndex(index));
+    (delegate->*&Delegate::initStyleOption)(&option, index);
+    return option.text;
+  }
+  return "the file is not listed";
 }
 
 }  // namespace
@@ -67,6 +88,28 @@ class DialogLooksTest : public QObject {
       button->setIcon(box_picture("box_question", 16, 1));
     remove_button_icons(box);
     for (const QAbstractButton* button : box.buttons()) QVERIFY(button->icon().isNull());
+  }
+
+  void a_file_dialog_tells_sizes_in_the_language_on_screen() {
+    QTemporaryDir folder;
+    QFile file(folder.filePath("a.sdk"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(82, ' '));
+    file.close();
+    QVERIFY(QDir(folder.path()).mkdir("folder"));
+    for (const auto& [language, size] :
+         {std::pair("Fr", "82 octets"), std::pair("En", "82 bytes")}) {
+      globals.Langue = language;
+      QFileDialog dialog(nullptr, "", folder.path());
+      dialog.setOption(QFileDialog::DontUseNativeDialog);
+      fit_columns(dialog);
+      dialog.show();
+      auto& files = *dialog.findChild<QTreeView*>("treeView");
+      QVERIFY(QTest::qWaitFor([&] { return files.model()->rowCount(files.rootIndex()) == 2; }));
+      QCOMPARE(shown_size(files, "a.sdk"), size);
+      QCOMPARE(shown_size(files, "folder"), "");
+    }
+    globals.Langue = "Fr";
   }
 
   void a_file_dialog_shows_its_columns_whole() {

@@ -181,6 +181,37 @@ class KeyboardTest : public QObject {
     QCOMPARE(globals.NiveauCourant, 4);
   }
 
+  void the_keys_of_the_window_reach_it_while_the_list_is_open_and_close_it() {
+    QWidget* levels = play_->find<QComboBox>("Niveau").view();
+    for (const auto key : {Qt::Key_Escape, Qt::Key_F1, Qt::Key_F2}) {
+      go_to("Niveau");
+      play_->press(Qt::Key_Space);
+      QVERIFY(QTest::qWaitFor([&] { return levels->isVisible(); }));
+      globals.ArretDemande = false;
+      QTest::keyClick(levels, key);
+      QCOMPARE(globals.ArretDemande, key == Qt::Key_Escape);
+      QCOMPARE(globals.Langue, std::string(key == Qt::Key_F1 ? "En" : "Fr"));
+      QVERIFY(!levels->isVisible());
+      QCOMPARE(focus(), "Niveau");
+    }
+    QCOMPARE(globals.NiveauCourant, 1);
+  }
+
+  void the_list_opens_again_in_the_new_language() {
+    auto& list = play_->find<QComboBox>("Niveau");
+    go_to("Niveau");
+    play_->press(Qt::Key_Space);
+    QVERIFY(QTest::qWaitFor([&] { return list.view()->isVisible(); }));
+    QTest::keyClick(list.view(), Qt::Key_F1);
+    play_->press(Qt::Key_Space);
+    QVERIFY(QTest::qWaitFor([&] { return list.view()->isVisible(); }));
+    QCOMPARE(list.view()->model()->index(4, 0).data(), "Diabolic");
+    for (const auto key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Return})
+      QTest::keyClick(list.view(), key);
+    QCOMPARE(list.currentText(), "Diabolic");
+    QCOMPARE(globals.NiveauCourant, 4);
+  }
+
   void arrows_move_in_both_grids() {
     use("Check2");
     for (const char* grid : {"MSF", "MSR"}) {

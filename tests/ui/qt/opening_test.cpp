@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QProcess>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "tests/ui/qt/play.hpp"
@@ -101,6 +102,32 @@ class OpeningTest : public QObject {
              "SuDoKu doit s'arrêter (" + path("missing.sdk") + ": No such file or directory)");
     QCOMPARE(guard.status(), std::optional(1));
     QVERIFY(!frame.isVisible());
+  }
+
+  void an_empty_file_is_told_in_the_language_on_screen() {
+    QFile file(path("empty.sdk"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (const bool french : {true, false}) {
+      Play play;
+      if (!french) play.press(Qt::Key_F1);
+      BoxAnswer ok(QMessageBox::Ok);
+      choose(path("empty.sdk"));
+      QCOMPARE(play.run_program([&] { play.click("Command6"); }), 1);
+      QVERIFY(ok.box().text.contains(french ? "empty.sdk: le fichier est vide)"
+                                            : "empty.sdk: the file is empty)"));
+    }
+  }
+
+  void a_box_before_the_window_is_shown_stands_in_the_middle_of_the_screen() {
+    ProgramGuard guard;
+    QtDesktop desktop(guard);
+    MainWindow window(desktop);
+    MainFrame frame(window, guard);
+    desktop.set_window(&frame);
+    BoxAnswer ok(QMessageBox::Ok);
+    guard.run([&] { window.start(path("missing.sdk").toStdString()); });
+    const QPoint off = ok.box().middle - frame.screen()->availableGeometry().center();
+    QVERIFY(off.manhattanLength() <= 2);
   }
 
   void help_and_version_alone_are_answered_without_a_display() {

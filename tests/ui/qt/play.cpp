@@ -96,7 +96,7 @@ void BoxAnswer::look_for_box() {
   auto* box = qobject_cast<QMessageBox*>(open_dialog());
   if (!box || !box->isVisible()) return;
   timer_.stop();
-  box_ = ShownBox{box->windowTitle(), box->text(), {}};
+  box_ = ShownBox{box->windowTitle(), box->text(), {}, box->frameGeometry().center()};
   for (const QAbstractButton* button : box->buttons()) box_->buttons << button->text().remove('&');
   QTest::mouseClick(box->button(button_), Qt::LeftButton);
 }

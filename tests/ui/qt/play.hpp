@@ -60,6 +60,7 @@ class Play {
 struct ShownBox {
   QString title, text;
   QStringList buttons;  ///< without the signs of their shortcuts
+  QPoint middle;        ///< on the screen
 };
 
 /// Presses `button` of the next message box as soon as it is open. The box is remembered.
