@@ -39,6 +39,12 @@ std::optional<std::uint32_t> collect_exit_code(std::uint32_t id);
 /// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
 void write_new_file(const std::filesystem::path& file, std::string_view bytes);
 
+/// Whether the player may read the file; false when there is none.
+bool may_read(const std::filesystem::path& file);
+
+/// Whether the player may write the file or, in a folder, make files; false when there is none.
+bool may_write(const std::filesystem::path& file_or_folder);
+
 /// Fails for a file that the player may not write into.
 void require_writable(const std::filesystem::path& file);
 

@@ -29,7 +29,9 @@ int main(int argc, char** argv) {
   fonts.wait();
   sdk::MainFrame frame(window, guard);
   desktop.set_window(&frame);
-  guard.run([&] { window.start(sdk::command_line({argv + 1, argv + argc})); });
+  const std::string line = sdk::command_line({argv + 1, argv + argc});
+  desktop.start_dialogs_in(sdk::folder_of_file(line));
+  guard.run([&] { window.start(line); });
   if (!guard.status()) {
     frame.centre_on_screen();
     frame.show();
