@@ -47,6 +47,12 @@ std::string signal_name(int number);
 /// Writes a file that must not exist yet; its bytes are on the disk when the call returns.
 void write_new_file(const std::filesystem::path& file, std::string_view bytes);
 
+/// Whether the player may read the file; false when there is none.
+bool may_read(const std::filesystem::path& file);
+
+/// Whether the player may write the file or, in a folder, make files; false when there is none.
+bool may_write(const std::filesystem::path& file_or_folder);
+
 /// Fails for a file that the player may not write into.
 void require_writable(const std::filesystem::path& file);
 

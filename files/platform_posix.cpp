@@ -158,6 +158,23 @@ void write_new_file(const std::filesystem::path& file, std::string_view bytes) {
 
 void require_writable(const std::filesystem::path& file) { Descriptor(file, 0); }
 
+namespace {
+
+/// Asked for the rights that opening a file would have.
+bool may(const std::filesystem::path& file, int access) {
+  return faccessat(AT_FDCWD, file.c_str(), access, AT_EACCESS) == 0;
+}
+
+}  // namespace
+
+bool may_read(const std::filesystem::path& file) { return may(file, R_OK); }
+
+bool may_write(const std::filesystem::path& file_or_folder) {
+  std::error_code unseen;
+  const bool is_folder = std::filesystem::is_directory(file_or_folder, unseen);
+  return may(file_or_folder, is_folder ? W_OK | X_OK : W_OK);
+}
+
 void copy_access(const std::filesystem::path& from, const std::filesystem::path& to) {
   struct stat before, after;
   if (stat(from.c_str(), &before) != 0 || stat(to.c_str(), &after) != 0) fail(errno, from.string());

@@ -49,9 +49,11 @@ class Desktop {
   /// Replaces the clipboard's content by `text`.
   virtual void set_clipboard(const std::string& text) = 0;
 
-  /// The default printer's portrait page. Throws RuntimeError when there is no printer.
+  /// The portrait page of the default printer, or of what stands for it where the system has none.
+  /// Throws RuntimeError when there is nothing to print on.
   virtual PageSize printer_page() = 0;
-  /// Prints one copy of one page on the default printer. Throws RuntimeError when it fails.
+  /// Prints one copy of one page on it. Throws RuntimeError when it fails. The player may be asked
+  /// where the page goes; when that is cancelled nothing is printed.
   virtual void print(const Page& page) = 0;
 
   /// A new seed at every call, from a clock finer than a second.

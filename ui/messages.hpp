@@ -42,6 +42,15 @@ enum class Notice {
   explanation,      ///< accessible name of the steps of a hint
   previous_step,    ///< accessible name and tooltip of the button that goes back a step
   next_step,        ///< the same, of the button that goes on to the next one
+  rescued_grids,    ///< name of the folder of the grids that the program saved unasked
+  is_folder,        ///< why a dialog refuses %1: it is a folder
+  no_file,          ///< the same: there is no file %1
+  unreadable_file,  ///< the same: the player may not read %1
+  no_folder,        ///< why a dialog refuses a file in %1: there is no such folder
+  closed_folder,    ///< the same: the player may make no file in %1
+  closed_file,      ///< why a dialog refuses %1: the player may not write it
+  print_to_file,    ///< title of the dialog for the file that a page goes to
+  pdf_files,        ///< the kind of that file
   author,           ///< who made the game
   rights,           ///< notice of rights: %1 the year
 };

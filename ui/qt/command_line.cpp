@@ -31,4 +31,11 @@ std::string command_line(const ProgramArguments& arguments) {
   return line;
 }
 
+std::filesystem::path folder_of_file(std::string command_line) {
+  std::erase(command_line, '"');
+  if (command_line.empty()) return {};
+  std::error_code no_current_folder;
+  return std::filesystem::absolute(command_line, no_current_folder).parent_path();
+}
+
 }  // namespace sdk

@@ -58,6 +58,13 @@ class SizeDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
+void fit_looks(QMessageBox& box, Icon icon) {
+  box.setTextFormat(Qt::PlainText);
+  set_picture(box, icon);
+  fit_title(box);
+  remove_button_icons(box);
+}
+
 void set_picture(QMessageBox& box, Icon icon) {
   if (const char* name = picture_name(icon))
     box.setIconPixmap(box_picture(name, picture_side, box.devicePixelRatioF()));

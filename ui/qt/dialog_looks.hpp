@@ -11,6 +11,9 @@ class QMessageBox;
 
 namespace sdk {
 
+/// Makes the box one of the game's: its text plain, and all that follows here.
+void fit_looks(QMessageBox& box, Icon icon);
+
 /// Gives the box the game's own picture for `icon`: Qt's are drawn for small screens alone.
 void set_picture(QMessageBox& box, Icon icon);
 

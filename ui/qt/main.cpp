@@ -34,7 +34,9 @@ int main(int argc, char** argv) {
     window.rescue_grid("display");
     desktop.remove_private_folder();
   });
-  guard.run([&] { window.start(sdk::command_line({argv + 1, argv + argc})); });
+  const std::string line = sdk::command_line({argv + 1, argv + argc});
+  desktop.start_dialogs_in(sdk::folder_of_file(line));
+  guard.run([&] { window.start(line); });
   const sdk::EndSignals end_signals([&](int number, const std::string& name) {
     constexpr int killed = 128;  // what a shell adds to a signal's number
     guard.run([&] {

@@ -3,6 +3,8 @@
 
 #include "ui/qt/printing_service.hpp"
 
+#include <QBuffer>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <cerrno>
@@ -29,19 +31,48 @@ std::unique_ptr<QPrinter> default_printer() {
   return printer;
 }
 
-}  // namespace
-
-PageSize default_printer_page() {
-  const QSizeF points = default_printer()->pageLayout().paintRect(QPageLayout::Point).size();
+PageSize printable_area(const QPagedPaintDevice& device) {
+  const QSizeF points = device.pageLayout().paintRect(QPageLayout::Point).size();
   return {static_cast<float>(points.width()) * twips_per_point,
           static_cast<float>(points.height()) * twips_per_point};
 }
+
+}  // namespace
+
+bool has_default_printer() { return !QPrinterInfo::defaultPrinter().isNull(); }
+
+PageSize default_printer_page() { return printable_area(*default_printer()); }
 
 void print_on_default_printer(const Page& page) {
   const auto printer = default_printer();
   const bool painted = paint_page(*printer, page);
   if (!painted || printer->printerState() == QPrinter::Error)
     throw RuntimeError(printer->printerName().toStdString(), system_words(EIO));
+}
+
+namespace {
+
+/// A4 in portrait, with Qt's margins.
+void set_paper(QPdfWriter& writer) { writer.setPageSize(QPageSize(QPageSize::A4)); }
+
+}  // namespace
+
+PageSize pdf_page() {
+  QBuffer nothing;
+  QPdfWriter writer(&nothing);
+  set_paper(writer);
+  return printable_area(writer);
+}
+
+std::string pdf_of(const Page& page) {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&file);
+    set_paper(writer);
+    if (!paint_page(writer, page)) throw RuntimeError("PDF", system_words(EIO));
+  }
+  return file.data().toStdString();
 }
 
 }  // namespace sdk

@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
@@ -23,12 +22,6 @@
 namespace sdk {
 
 namespace {
-
-/// "description|pattern|" as Qt writes it. Qt's dialog shows the description alone.
-QString name_filter(const std::string& filter) {
-  const QStringList parts = QString::fromStdString(filter).split('|');
-  return parts.value(0) + " (" + parts.value(1) + ")";
-}
 
 /// The core names an empty file in English, for scripts and logs; the player reads his language.
 QString in_language_on_screen(const std::string& text) {
@@ -77,11 +70,8 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   const bool asks = buttons == Buttons::yes_no;
   Box box(QMessageBox::NoIcon, QString::fromStdString(title), in_language_on_screen(text),
           asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window);
-  box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
-  set_picture(box, icon);
-  fit_title(box);
-  remove_button_icons(box);
+  fit_looks(box, icon);
   place(box, window);
   const int pressed = run(box, asks && icon == Icon::none);
   guard_.rethrow();
@@ -89,29 +79,21 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   return pressed == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
-std::string QtDesktop::open_dialog(const std::string& filter) {
+void QtDesktop::start_dialogs_in(const std::filesystem::path& folder) { dialogs_.start_in(folder); }
+
+std::string QtDesktop::ask(const std::function<std::string()>& dialog) {
   language_.follow();
-  QFileDialog dialog(window_);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  return chosen_file(dialog, filter);
+  const std::string file = dialog();
+  guard_.rethrow();
+  return file;
+}
+
+std::string QtDesktop::open_dialog(const std::string& filter) {
+  return ask([&] { return dialogs_.file_to_open(window_, filter); });
 }
 
 std::string QtDesktop::save_dialog(const std::string& filter) {
-  language_.follow();
-  QFileDialog dialog(window_);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  return chosen_file(dialog, filter);
-}
-
-std::string QtDesktop::chosen_file(QFileDialog& dialog, const std::string& filter) {
-  // The system's own dialogs speak the system's language.
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setNameFilter(name_filter(filter));
-  fit_columns(dialog);
-  const bool chosen = dialog.exec() == QDialog::Accepted;
-  guard_.rethrow();
-  return chosen ? dialog.selectedFiles().value(0).toStdString() : std::string();
+  return ask([&] { return dialogs_.file_to_save(window_, filter); });
 }
 
 void QtDesktop::set_pointer(Pointer shape) {
@@ -132,9 +114,15 @@ void QtDesktop::set_clipboard(const std::string& text) {
   QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
-PageSize QtDesktop::printer_page() { return default_printer_page(); }
+PageSize QtDesktop::printer_page() {
+  return has_default_printer() ? default_printer_page() : pdf_page();
+}
 
-void QtDesktop::print(const Page& page) { print_on_default_printer(page); }
+void QtDesktop::print(const Page& page) {
+  if (has_default_printer()) return print_on_default_printer(page);
+  const std::string file = ask([&] { return dialogs_.file_to_print_to(window_); });
+  if (!file.empty()) replace_file(file, pdf_of(page));
+}
 
 void QtDesktop::open_document(const std::string& document_or_address) {
   const QUrl url = QUrl::fromUserInput(QString::fromStdString(document_or_address));

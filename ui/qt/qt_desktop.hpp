@@ -5,13 +5,14 @@
 #pragma once
 
 #include <QPointer>
+#include <functional>
 
 #include "files/platform_desktop.hpp"
 #include "ui/qt/event_pump.hpp"
+#include "ui/qt/file_dialogs.hpp"
 #include "ui/qt/program_guard.hpp"
 #include "ui/qt/qt_language.hpp"
 
-class QFileDialog;
 class QMessageBox;
 
 namespace sdk {
@@ -27,6 +28,9 @@ class QtDesktop final : public PlatformDesktop {
   /// The window that boxes belong to and that shows the pointer.
   void set_window(MainFrame* window);
 
+  /// Where file dialogs start until the player has chosen a file; none: in the player's documents.
+  void start_dialogs_in(const std::filesystem::path& folder);
+
   Answer message_box(const std::string& text, Icon icon, Buttons buttons,
                      const std::string& title) override;
   std::string open_dialog(const std::string& filter) override;
@@ -34,6 +38,7 @@ class QtDesktop final : public PlatformDesktop {
   void set_pointer(Pointer shape) override;
   void let_events_run() override;
   void set_clipboard(const std::string& text) override;
+  /// Where the system has no default printer the page is a file's.
   PageSize printer_page() override;
   void print(const Page& page) override;
   std::filesystem::path data_folder() override;
@@ -41,11 +46,12 @@ class QtDesktop final : public PlatformDesktop {
 
  private:
   int run(QMessageBox& box, bool asks_about_hint);
-  std::string chosen_file(QFileDialog& dialog, const std::string& filter);
+  std::string ask(const std::function<std::string()>& dialog);
 
   const ProgramGuard& guard_;
   QPointer<MainFrame> window_;
   QtLanguage language_;
+  FileDialogs dialogs_;
   EventPump pump_;
 };
 

@@ -88,12 +88,17 @@ class EndingTest : public QObject {
     QVERIFY(no.was_shown());
   }
 
-  void printing_without_a_printer_saves_the_grid_and_ends_with_status_1() {
-    BoxAnswer ok(QMessageBox::Ok);
+  void a_page_that_cannot_be_written_saves_the_grid_and_ends_with_status_1() {
+    BoxAnswer replace(QMessageBox::Yes);
+    std::optional<BoxAnswer> ok;
+    in_file_dialog([&](QFileDialog& dialog) {
+      enter_name(dialog, "/dev/full");
+      ok.emplace(QMessageBox::Ok);
+    });
     QCOMPARE(play_->run_program([this] { play_->click("Command4"); }), 1);
-    QVERIFY(ok.box().text.contains("printer: "));
+    QVERIFY(ok->box().text.contains("/dev/full: No space left on device"));
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QVERIFY(ok.box().text.contains(folder));
+    QVERIFY(ok->box().text.contains(folder));
     QVERIFY(QFile::exists(folder + "/SuDoKu-1.sdk"));
   }
 

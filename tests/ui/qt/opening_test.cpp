@@ -4,8 +4,6 @@
 // Puzzle files in the real window and in the real program.
 
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QProcess>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -21,16 +19,6 @@ constexpr const char* puzzle =
     "987654321\n1.5927468\n642138579\n426571983\n793482156\n518396742\n371865294\n2697438.5\n"
     ".5421963.\n";
 
-/// Chooses a file in the next file dialog.
-void choose(const QString& path) {
-  later(100, [path] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) qFatal("no file dialog is open");
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-    static_cast<QDialog*>(dialog)->accept();
-  });
-}
-
 }  // namespace
 
 class OpeningTest : public QObject {
@@ -45,7 +33,7 @@ class OpeningTest : public QObject {
 
   void a_puzzle_opens_from_the_dialog() {
     Play play;
-    choose(path("my puzzle.sdk"));
+    choose_file(path("my puzzle.sdk"));
     play.click("Command6");
     QCOMPARE(play.text(1, 1), "9");
     QCOMPARE(play.text(2, 2), " ");
@@ -67,13 +55,13 @@ class OpeningTest : public QObject {
     QString first;
     {
       Play play;
-      choose(path("saved.sdk"));
+      choose_file(path("saved.sdk"));
       play.click("sauve");
       for (int r = 1; r <= 9; ++r)
         for (int c = 1; c <= 9; ++c) first += play.text(r, c);
     }
     Play play;
-    choose(path("saved.sdk"));
+    choose_file(path("saved.sdk"));
     play.click("Command6");
     QString second;
     for (int r = 1; r <= 9; ++r)
@@ -83,11 +71,15 @@ class OpeningTest : public QObject {
 
   void a_save_that_fails_keeps_the_grid_and_ends() {
     Play play;
-    BoxAnswer ok(QMessageBox::Ok);
-    choose(path("none/a.sdk"));
+    BoxAnswer replace(QMessageBox::Yes);
+    std::optional<BoxAnswer> ok;
+    in_file_dialog([&](QFileDialog& dialog) {
+      enter_name(dialog, "/dev/full");
+      ok.emplace(QMessageBox::Ok);
+    });
     QCOMPARE(play.run_program([&] { play.click("sauve"); }), 1);
-    QVERIFY(ok.box().text.contains(path("none/a.sdk") + ": No such file or directory"));
-    QVERIFY(ok.box().text.contains("SuDoKu-1.sdk"));
+    QVERIFY(ok->box().text.contains("/dev/full: No space left on device"));
+    QVERIFY(ok->box().text.contains("SuDoKu-1.sdk"));
   }
 
   void a_missing_file_at_the_start_is_told_before_the_window_is_shown() {

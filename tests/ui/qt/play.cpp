@@ -3,6 +3,7 @@
 
 #include "tests/ui/qt/play.hpp"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -106,6 +107,24 @@ QDialog* open_dialog() {
   for (QWidget* widget : QApplication::topLevelWidgets())
     if (auto* box = qobject_cast<QMessageBox*>(widget); box && box->isVisible()) return box;
   return nullptr;
+}
+
+void in_file_dialog(const std::function<void(QFileDialog&)>& actions) {
+  later(100, [actions] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) qFatal("no file dialog is open");
+    actions(*dialog);
+  });
+}
+
+void enter_name(QFileDialog& dialog, const QString& name) {
+  auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+  edit->setText(name);
+  QTest::keyClick(edit, Qt::Key_Return);
+}
+
+void choose_file(const QString& path) {
+  in_file_dialog([path](QFileDialog& dialog) { enter_name(dialog, path); });
 }
 
 void later(int milliseconds, const std::function<void()>& action) {

@@ -4,6 +4,7 @@
 /// A started game in its real window, and a player's hands.
 #pragma once
 
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
@@ -83,6 +84,13 @@ class BoxAnswer : public QObject {
 /// The dialog that waits for the player: the modal one, or the question of a hint, which is not
 /// modal; null for none.
 QDialog* open_dialog();
+
+/// Does that with the next file dialog.
+void in_file_dialog(const std::function<void(QFileDialog&)>& actions);
+/// Types a name in a file dialog, and Enter.
+void enter_name(QFileDialog& dialog, const QString& name);
+/// Chooses a file in the next file dialog.
+void choose_file(const QString& path);
 
 /// `action` after some events.
 void later(int milliseconds, const std::function<void()>& action);
