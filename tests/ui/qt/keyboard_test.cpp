@@ -135,10 +135,10 @@ class KeyboardTest : public QObject {
     QVERIFY(!play_->window.about().shown());
   }
 
-  void the_print_button_prints_or_tells_that_it_cannot() {
-    KeyInDialog ok({Qt::Key_Return});
-    QCOMPARE(play_->run_program([this] { use("Command4"); }), 1);
-    QCOMPARE(ok.kind(), "QMessageBox");
+  void the_print_button_asks_for_a_file_and_escape_prints_nothing() {
+    KeyInDialog cancel({Qt::Key_Escape});
+    QCOMPARE(play_->run_program([this] { use("Command4"); }), -1);
+    QCOMPARE(cancel.kind(), "QFileDialog");
   }
 
   void yes_to_the_quit_button_ends_the_program() {
