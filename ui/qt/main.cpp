@@ -12,43 +12,58 @@
 #include "ui/qt/qt_desktop.hpp"
 #include "ui/qt/sudden_end.hpp"
 
-int main(int argc, char** argv) {
-  if (const auto answer = sdk::answer_without_game({argv + 1, argv + argc})) {
-    std::cout << *answer << std::flush;
-    return std::cout ? 0 : 1;
-  }
-  sdk::FontReader fonts;
-  QApplication::setStyle("Fusion");
-  QApplication application(argc, argv);  // takes its own options away
+namespace {
+
+using namespace sdk;
+
+void prepare_application() {
   QApplication::setApplicationName("sudoku");
   QApplication::setDesktopFileName("sudoku-pas-a-pas");
-  QApplication::setWindowIcon(sdk::game_icon());
+  QApplication::setWindowIcon(game_icon());
+}
 
-  sdk::ProgramGuard guard;
-  sdk::QtDesktop desktop(guard);
-  sdk::MainWindow window(desktop);
+[[noreturn]] void end_by_signal(MainWindow& window, int number, const std::string& name) {
+  constexpr int killed = 128;  // what a shell adds to a signal's number
+  window.rescue_grid(name);
+  throw ProgramEnd{killed + number};
+}
+
+/// Plays until the player, or something else, ends the game; the exit status.
+int play(QtDesktop& desktop, ProgramGuard& guard, const std::string& line, FontReader& fonts) {
+  MainWindow window(desktop);
   fonts.wait();
-  sdk::MainFrame frame(window, guard);
+  MainFrame frame(window, guard);
   desktop.set_window(&frame);
-  const sdk::ExitWatch exit_watch([&] {
+  const ExitWatch exit_watch([&] {
     window.rescue_grid("display");
     desktop.remove_private_folder();
   });
-  const std::string line = sdk::command_line({argv + 1, argv + argc});
-  desktop.start_dialogs_in(sdk::folder_of_file(line));
   guard.run([&] { window.start(line); });
-  const sdk::EndSignals end_signals([&](int number, const std::string& name) {
-    constexpr int killed = 128;  // what a shell adds to a signal's number
-    guard.run([&] {
-      window.rescue_grid(name);
-      throw sdk::ProgramEnd{killed + number};
-    });
+  if (guard.status()) return *guard.status();
+  const EndSignals end_signals([&](int number, const std::string& name) {
+    guard.run([&] { end_by_signal(window, number, name); });
   });
-  if (!guard.status()) {
-    frame.centre_on_screen();
-    frame.show();
-    QTimer::singleShot(0, &frame, [&] { guard.run([&] { window.finish_start(); }); });
-    QApplication::exec();
-  }
+  frame.centre_on_screen();
+  frame.show();
+  QTimer::singleShot(0, &frame, [&] { guard.run([&] { window.finish_start(); }); });
+  QApplication::exec();
   return guard.status().value_or(0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (const auto answer = answer_without_game({argv + 1, argv + argc})) {
+    std::cout << *answer << std::flush;
+    return std::cout ? 0 : 1;
+  }
+  FontReader fonts;
+  QApplication::setStyle("Fusion");
+  QApplication application(argc, argv);  // takes its own options away
+  prepare_application();
+  ProgramGuard guard;
+  QtDesktop desktop(guard);
+  const std::string line = command_line({argv + 1, argv + argc});
+  desktop.start_dialogs_in(folder_of_file(line));
+  return play(desktop, guard, line, fonts);
 }
