@@ -23,6 +23,11 @@ void DisplayGrid::set_text(int row, int column, std::string text) {
   if (listener_) listener_->cell_changed(row, column);
 }
 
+void DisplayGrid::set_cell(int row, int column, DisplayCell cell) {
+  cell_at(row, column) = std::move(cell);
+  if (listener_) listener_->cell_changed(row, column);
+}
+
 void DisplayGrid::make_current(int row, int column) { select(row, column, row, column); }
 
 void DisplayGrid::select(int row, int column, int other_row, int other_column) {

@@ -64,6 +64,9 @@ class DisplayGrid {
   /// Writes a cell's text without making the cell current.
   void set_text(int row, int column, std::string text);
 
+  /// Replaces all of a cell without making it current.
+  void set_cell(int row, int column, DisplayCell cell);
+
   /// Makes a cell current; the selection becomes that cell.
   void make_current(int row, int column);
   /// Makes (row, column) current and selects the block between it and the other corner.

@@ -11,8 +11,10 @@ namespace sdk {
 
 void MainWindow::run_guarded(const std::function<void()>& handler) {
   try {
+    note_game();
     handler();
     forget_outdated_hint();
+    note_game();
   } catch (const RuntimeError& error) {
     end_fatally(error);
   }

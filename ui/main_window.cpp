@@ -33,6 +33,7 @@ void MainWindow::start(const std::string& command_line) {
     else
       open_at_start(command_line);
   });
+  history_.begin(game_state());
 }
 
 void MainWindow::open_at_start(const std::string& command_line) {
@@ -73,6 +74,7 @@ void MainWindow::inactive() {
 }
 
 void MainWindow::tell_hint() {
+  note_game();
   explanation_.tell(MSF);
   if (listener_) listener_->explanation_changed();
 }

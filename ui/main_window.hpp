@@ -16,6 +16,7 @@
 #include "screen/errors.hpp"
 #include "ui/about.hpp"
 #include "ui/explanation.hpp"
+#include "ui/history.hpp"
 #include "ui/layout.hpp"
 
 namespace sdk {
@@ -84,6 +85,12 @@ class MainWindow final : public Window {
   void check(Control box, bool on);
   /// An item of the level list (0..4) is chosen; none, or one that is not there, reads as level 0.
   void choose_level(std::optional<int> item);
+  /// Takes back the last change of some cell's text, whatever made it, or does again what was taken
+  /// back last: the game is then as it was, without any message box, and no hint is told any more.
+  /// Each digit of a hint is a change of its own. Nothing happens when there is none, nor during a
+  /// search. How the game started is not taken back.
+  void undo();
+  void redo();
   /// Appends the puzzle in hand to "Grilles.txt" in the current folder; no control does it.
   void export_entry();
   /// A key pressed in the window, before the control that has the focus gets it.
@@ -115,6 +122,10 @@ class MainWindow final : public Window {
   std::optional<int> chosen_level() const { return chosen_level_; }
   /// What the level list shows: the current level's name.
   const std::string& level_text() const;
+  bool can_undo() const { return history_.can_undo(); }
+  bool can_redo() const { return history_.can_redo(); }
+  /// The game as undo and redo would bring it back.
+  GameState game_state() const;
   const std::string& title() const { return title_; }
   Control focus() const { return focus_; }
   const Layout& layout() const { return layout_; }
@@ -147,6 +158,8 @@ class MainWindow final : public Window {
   static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
 
   void run_guarded(const std::function<void()>& handler);
+  void note_game();
+  void restore(const GameState& state);
   [[noreturn]] void end_fatally(const RuntimeError& error);
 
   void set_tooltip(Control control, std::string tooltip);
@@ -185,6 +198,7 @@ class MainWindow final : public Window {
   std::vector<LineDrawing> lines_;
   About about_;
   Explanation explanation_;
+  History history_;
   bool opened_at_start_ = false;
   WindowListener* listener_ = nullptr;
 };

@@ -79,6 +79,8 @@ constexpr NoticeText notice_texts[] = {
     {Notice::candidates, {"Candidats", "Candidates"}},
     {Notice::level, {"Niveau", "Level"}},
     {Notice::hint, {"Suggestion", "Hint"}},
+    {Notice::undo, {"Annuler", "Undo"}},
+    {Notice::redo, {"Rétablir", "Redo"}},
     {Notice::given, {"donné", "given"}},
     {Notice::wrong, {"faux", "wrong"}},
     {Notice::placed, {"placé", "placed"}},

@@ -26,6 +26,8 @@ enum class Notice {
   candidates,       ///< accessible name of `MSR`
   level,            ///< accessible name of `Niveau`
   hint,             ///< accessible name and tooltip of `Command8`
+  undo,             ///< accessible name and tooltip of the button that takes a change back
+  redo,             ///< the same, of the button that does it again
   given,            ///< accessible state of a cell: it belongs to the puzzle
   wrong,            ///< accessible state of a cell: its value is shown in red
   placed,           ///< accessible state of a cell of `MSR`: a value, not its only candidate

@@ -66,7 +66,8 @@ std::string EventSource::event(int depth) {
 std::string EventSource::plain_event() {
   const int kind = below(100);
   if (kind < 45) return key();
-  if (kind < 65) return select();
+  if (kind < 61) return select();
+  if (kind < 65) return turn();
   if (kind < 82) return click();
   if (kind < 87) return check();
   if (kind < 89) return level();
@@ -89,6 +90,8 @@ std::string EventSource::select() {
 }
 
 std::string EventSource::click() { return "click " + one_of(buttons); }
+
+std::string EventSource::turn() { return below(5) < 3 ? "undo" : "redo"; }
 
 std::string EventSource::check() {
   return "check Check" + std::to_string(1 + below(3)) + (below(2) ? " on" : " off");

@@ -32,6 +32,7 @@ class EventSource {
   std::string key();
   std::string select();
   std::string click();
+  std::string turn();
   std::string check();
   std::string level();
   std::string answer();

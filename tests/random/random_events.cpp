@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // Random events, also during searches and during searches inside these; the whole state is checked
-// after every event. Escape comes at the 1,000th step of every search.
+// after every event. Escape comes at the 1,000th step of every search. Now and then everything is
+// undone and done again, which has to bring the same game back.
 
 #include <algorithm>
 #include <deque>
@@ -20,10 +21,12 @@ namespace sdk {
 namespace {
 
 constexpr long escape_step = 1000;
+constexpr long events_between_turns = 100;
 constexpr std::size_t commands_kept = 60;
 
 struct Counts {
-  long events = 0, programs = 0, searches = 0, inner_searches = 0, escapes = 0, steps_chosen = 0;
+  long events = 0, programs = 0, searches = 0, inner_searches = 0, escapes = 0, steps_chosen = 0,
+       turns = 0;
 };
 
 /// One program from its start to its end, in folders of its own.
@@ -42,9 +45,23 @@ class Program {
   }
   bool running() const { return script_.running(); }
   std::string fault() { return running() ? state_fault(script_.window()) : ""; }
+  /// Takes every step back, or does every step again; the first fault on the way.
+  std::string undo_all() { return turn_all(&MainWindow::can_undo, &MainWindow::undo); }
+  std::string redo_all() { return turn_all(&MainWindow::can_redo, &MainWindow::redo); }
+  GameState game() { return script_.window().game_state(); }
   bool shows_a_step() { return running() && script_.window().explanation().chosen(); }
 
  private:
+  std::string turn_all(bool (MainWindow::*possible)() const, void (MainWindow::*turn)()) {
+    MainWindow& window = script_.window();
+    while ((window.*possible)()) {
+      (window.*turn)();
+      ++counts_.turns;
+      if (std::string found = fault(); !found.empty()) return found;
+    }
+    return "";
+  }
+
   void count_search() {
     ++counts_.searches;
     if (script_.window().searches_running > 1) ++counts_.inner_searches;
@@ -72,7 +89,9 @@ class RandomRun {
       do_command(source_.next());
       ++counts_.events;
       counts_.steps_chosen += program_->shows_a_step();
-      const std::string fault = program_->fault();
+      std::string fault = program_->fault();
+      if (fault.empty() && program_->running() && is_time_to_go_back(events))
+        fault = undo_and_redo_all();
       if (!fault.empty()) return fault;
     }
     return "";
@@ -83,6 +102,19 @@ class RandomRun {
   const std::deque<std::string>& last_commands() const { return last_commands_; }
 
  private:
+  bool is_time_to_go_back(long events) const {
+    return counts_.events % events_between_turns == 0 || counts_.events == events;
+  }
+
+  /// The fault on the way, or that the game is not what it was.
+  std::string undo_and_redo_all() {
+    if (const std::string fault = program_->redo_all(); !fault.empty()) return fault;
+    const GameState before = program_->game();
+    for (const std::string& fault : {program_->undo_all(), program_->redo_all()})
+      if (!fault.empty()) return fault;
+    return program_->game() == before ? "" : "undo and redo of all steps changed the game";
+  }
+
   void restart() {
     program_.reset();
     program_ = std::make_unique<Program>(counts_);
@@ -109,7 +141,7 @@ void print(const Counts& c) {
   std::cout << c.events << " events in " << c.programs << " programs, " << c.searches
             << " searches, " << c.inner_searches << " of them inside others, " << c.escapes
             << " stopped at step " << escape_step << ", a step of a hint on show after "
-            << c.steps_chosen << " events\n";
+            << c.steps_chosen << " events, " << c.turns << " steps taken back and done again\n";
 }
 
 int play(std::uint32_t seed, long events, bool echo) {

@@ -50,6 +50,15 @@ TEST(DisplayGrid, WritesATextWithoutMovingTheCurrentCell) {
   EXPECT_EQ(grid.current_column(), 7);
 }
 
+TEST(DisplayGrid, ReplacesACellWithoutMovingTheCurrentOne) {
+  const DisplayCell replaced{.text = "6", .text_colour = colour::red};
+  DisplayGrid grid;
+  grid.make_current(8, 7);
+  grid.set_cell(2, 3, replaced);
+  EXPECT_EQ(grid.cell(2, 3), replaced);
+  EXPECT_EQ(grid.selection(), (CellRange{8, 7, 8, 7}));
+}
+
 TEST(DisplayGrid, ChangesOnlyTheCurrentCell) {
   DisplayGrid grid;
   grid.make_current(4, 2);

@@ -173,6 +173,8 @@ std::vector<Pictures::Shot> Pictures::shots_of_buttons() {
                                      {"verify", "Command7"},
                                      {"solve", "Bouton_GO"},
                                      {"clear", "Command2"},
+                                     {"undo", "undo"},
+                                     {"redo", "redo"},
                                      {"help", "aide"},
                                      {"about", "Command5"},
                                      {"quit", "Command3"}})

@@ -111,6 +111,11 @@ QImage Studio::cell(const char* grid, int row, int column) {
   return image;
 }
 
+QImage Studio::button(const char* name) {
+  widget(name).setEnabled(true);
+  return picture_of(widget(name));
+}
+
 QImage Studio::cut_out(const QRect& area) {
   const QImage all = picture_of(frame_);
   return all.copy(QRect(area.topLeft() * picture_scale, area.size() * picture_scale));

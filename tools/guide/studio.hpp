@@ -57,7 +57,8 @@ class Studio {
   QImage window();
   /// One cell of "MSF" or "MSR", framed.
   QImage cell(const char* grid, int row, int column);
-  QImage button(const char* name) { return picture_of(widget(name)); }
+  /// As it is while it can be used.
+  QImage button(const char* name);
   /// The window with a box over it.
   QImage window_under(QMessageBox& box);
 

@@ -12,6 +12,7 @@
 #include "tools/script/script.hpp"
 #include "tools/script/show.hpp"
 #include "tools/script/steps.hpp"
+#include "tools/script/undo.hpp"
 
 namespace sdk {
 
@@ -206,6 +207,9 @@ constexpr Command table[] = {
      "1..9, kp0..kp9, 0, a..z, Delete, Backspace, Left, Right, Up, Down, Ctrl+C, Ctrl+A, F1, F2, "
      "Escape",
      event, press_key},
+    {"undo", "", "take back the last change of some cell's text; during a search nothing happens",
+     event, undo},
+    {"redo", "", "do again what undo took back last; during a search nothing happens", event, redo},
     {"about", "click NAME | key K",
      "a click on Picture, Label2, Label1, lblVersion or lblCopyright of the about box, or any key "
      "pressed in it",

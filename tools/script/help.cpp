@@ -51,8 +51,9 @@ Printed as it happens
   print end
   ended STATUS                    every later command but comments is an error
   error: <why>                    a command is unknown, malformed, aimed at a hidden control or a
-                                  step that is not there, or waits for an open question to be
-                                  answered; the run goes on and the exit status is 2
+                                  step that is not there, finds nothing to undo or redo, or waits
+                                  for an open question to be answered; the run goes on and the
+                                  exit status is 2
 
 The generator is std::mt19937 and a draw is its 32-bit output divided by 2^32, so that a seed gives
 the same puzzle everywhere. The exit status is 0 when no error was printed.

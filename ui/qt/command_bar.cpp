@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -22,24 +23,50 @@ struct ButtonLook {
   Control control;
   const char* icon;
   bool starts_group;
+  const char* shortcut;
 };
 
-/// From left to right: the puzzle and its file, help with solving it, the program.
+/// From left to right: the puzzle and its file, help with solving it, the program. Undo and redo
+/// follow the button that clears.
 constexpr ButtonLook button_looks[] = {
-    {Control::Command1, "new", false},    {Control::Command6, "load", false},
-    {Control::sauve, "save", false},      {Control::Command4, "print", false},
-    {Control::Command8, "hint", true},    {Control::Command7, "verify", false},
-    {Control::Bouton_GO, "solve", false}, {Control::Command2, "clear", false},
-    {Control::aide, "help", true},        {Control::Command5, "about", false},
-    {Control::Command3, "quit", false},
+    {Control::Command1, "new", false, "Ctrl+N"},
+    {Control::Command6, "load", false, "Ctrl+O"},
+    {Control::sauve, "save", false, "Ctrl+S"},
+    {Control::Command4, "print", false, "Ctrl+P"},
+    {Control::Command8, "hint", true, "Ctrl+H"},
+    {Control::Command7, "verify", false, ""},
+    {Control::Bouton_GO, "solve", false, ""},
+    {Control::Command2, "clear", false, ""},
+    {Control::aide, "help", true, ""},
+    {Control::Command5, "about", false, ""},
+    {Control::Command3, "quit", false, "Ctrl+Q"},
 };
 
 constexpr int icon_side = 28;
-constexpr int button_side = 46;
+constexpr int button_side = 44;
+constexpr int button_gap = 2;
 
 QString name_for_player(const MainWindow& window, Control button) {
   const std::string& tooltip = window.control(button).tooltip;
   return tooltip.empty() ? notice_text(Notice::hint) : QString::fromStdString(tooltip);
+}
+
+void show_turn(QToolButton& button, Notice name, bool possible) {
+  button.setToolTip(notice_text(name));
+  set_accessible_name(button, notice_text(name));
+  button.setEnabled(possible);
+}
+
+/// Has each of the keys, which are divided by blanks, do what a click on `button` does, as long as
+/// `owner` is shown and enabled.
+template <class Pressed>
+void add_shortcuts(QToolButton& button, const QString& keys, QWidget& owner, Pressed pressed) {
+  button.setAccessibleDescription(keys);
+  for (const QString& key : keys.split(' ', Qt::SkipEmptyParts)) {
+    auto* shortcut = new QShortcut(QKeySequence(key), &owner);
+    shortcut->setAutoRepeat(&owner != &button);
+    QObject::connect(shortcut, &QShortcut::activated, &owner, pressed);
+  }
 }
 
 }  // namespace
@@ -55,17 +82,35 @@ CommandBar::CommandBar(QWidget* parent) : QWidget(parent), title_(new QLabel(thi
 
 QLayout* CommandBar::make_buttons() {
   auto* row = new QHBoxLayout;
-  row->setSpacing(4);
+  row->setSpacing(button_gap);
   for (const ButtonLook& look : button_looks) {
     if (look.starts_group) row->addStretch();
-    row->addWidget(make_button(look.control, look.icon));
+    row->addWidget(make_command(look.control, look.icon, look.shortcut));
+    if (look.control != Control::Command2) continue;
+    row->addWidget(undo_ = make_button("undo", "undo"));
+    row->addWidget(redo_ = make_button("redo", "redo"));
   }
+  connect(undo_, &QToolButton::clicked, this, &CommandBar::undo_clicked);
+  connect(redo_, &QToolButton::clicked, this, &CommandBar::redo_clicked);
+  // Keys may come faster than the buttons become usable.
+  add_shortcuts(*undo_, "Ctrl+Z", *this, [this] { emit undo_clicked(); });
+  add_shortcuts(*redo_, "Ctrl+Shift+Z Ctrl+Y", *this, [this] { emit redo_clicked(); });
   return row;
 }
 
-QToolButton* CommandBar::make_button(Control control, const char* icon) {
-  auto* button = new QToolButton(this);
+QToolButton* CommandBar::make_command(Control control, const char* icon, const char* shortcut) {
+  QToolButton* button = make_button("", icon);
   name_after(*button, control);
+  add_shortcuts(*button, shortcut, *button, [button] { button->click(); });
+  button->installEventFilter(this);
+  connect(button, &QToolButton::clicked, this, [this, control] { emit clicked(control); });
+  buttons_.push_back({control, button});
+  return button;
+}
+
+QToolButton* CommandBar::make_button(const char* name, const char* icon) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(name);
   button->setIcon(button_icon(icon));
   button->setIconSize({icon_side, icon_side});
   button->setFixedSize(button_side, button_side);
@@ -73,9 +118,6 @@ QToolButton* CommandBar::make_button(Control control, const char* icon) {
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);
-  button->installEventFilter(this);
-  connect(button, &QToolButton::clicked, this, [this, control] { emit clicked(control); });
-  buttons_.push_back({control, button});
   return button;
 }
 
@@ -97,6 +139,8 @@ void CommandBar::show_state(const MainWindow& window) {
     set_accessible_name(*button, name);
     button->setVisible(window.visible(control));
   }
+  show_turn(*undo_, Notice::undo, window.can_undo());
+  show_turn(*redo_, Notice::redo, window.can_redo());
 }
 
 }  // namespace sdk

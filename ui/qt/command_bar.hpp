@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-/// The band above the grids: title and credit, and the row of buttons.
+/// The band above the grids: title and credit, and the row of buttons with their shortcuts. A
+/// shortcut presses its button, so that of a hidden or disabled one does nothing.
 #pragma once
 
 #include <QWidget>
@@ -28,6 +29,8 @@ class CommandBar : public QWidget {
 
  signals:
   void clicked(Control button);
+  void undo_clicked();
+  void redo_clicked();
   void focus_lost(Control button);
 
  private:
@@ -37,9 +40,12 @@ class CommandBar : public QWidget {
   };
 
   QLayout* make_buttons();
-  QToolButton* make_button(Control control, const char* icon);
+  QToolButton* make_command(Control control, const char* icon, const char* shortcut);
+  QToolButton* make_button(const char* name, const char* icon);
 
   QLabel* title_;
+  QToolButton* undo_ = nullptr;
+  QToolButton* redo_ = nullptr;
   std::vector<Button> buttons_;
 };
 

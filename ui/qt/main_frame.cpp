@@ -77,6 +77,8 @@ MainFrame::~MainFrame() { window_.set_listener(nullptr); }
 void MainFrame::connect_bars() {
   connect(commands_, &CommandBar::clicked, this,
           [this](Control button) { act([&] { window_.click(button); }); });
+  connect(commands_, &CommandBar::undo_clicked, this, [this] { act([&] { window_.undo(); }); });
+  connect(commands_, &CommandBar::redo_clicked, this, [this] { act([&] { window_.redo(); }); });
   connect(commands_, &CommandBar::focus_lost, this,
           [this](Control button) { guard_.run([&] { window_.focus_lost(button); }); });
   connect(options_, &OptionBar::ticked, this,

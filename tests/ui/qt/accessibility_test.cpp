@@ -41,6 +41,8 @@ constexpr ControlRow control_rows[] = {
      "Show bad values"},
     {"Bouton_GO", QAccessible::Button, "focusable", "Résoudre la grille", "Solve puzzle"},
     {"Command2", QAccessible::Button, "focusable", "Efface la grille", "Clean the grid"},
+    {"undo", QAccessible::Button, "focusable", "Annuler", "Undo"},
+    {"redo", QAccessible::Button, "focusable", "Rétablir", "Redo"},
     {"aide", QAccessible::Button, "focusable", "Aide", "Help"},
     {"Command5", QAccessible::Button, "focusable", "Information", "About"},
     {"Command3", QAccessible::Button, "focusable", "Quitter", "Quit"},
