@@ -55,8 +55,8 @@ window_named() { xdotool search --onlyvisible --name "$1"; } # prints its number
 
 press() { # NAME OF THE BUTTON
   case $1 in # where its middle is, in pixels of a window at scale 1
-    help) xdotool mousemove --window "$window" 534 69 ;;
-    quit) xdotool mousemove --window "$window" 634 69 ;;
+    help) xdotool mousemove --window "$window" 543 69 ;;
+    quit) xdotool mousemove --window "$window" 635 69 ;;
   esac
   xdotool click 1
 }

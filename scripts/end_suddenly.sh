@@ -60,12 +60,12 @@ act() {
   local left=$X top=$Y
   case $((RANDOM % 7)) in
     0) moment=digit; click $((30 + RANDOM % 460)) $((130 + RANDOM % 460)); xdotool key $((RANDOM % 9 + 1)) ;;
-    1) moment=hint; click 285 69 ;;
+    1) moment=hint; click 243 69 ;;
     2) moment=answer; xdotool key Return ;;
     3) moment=candidates; click 382 598 ;;
     4) moment=new; click 35 69 ;;
-    5) moment=solve; click 385 69 ;;
-    6) moment=save; click 135 69; sleep 0.2; xdotool type "$work/saved.sdk"; xdotool key Return ;;
+    5) moment=solve; click 335 69 ;;
+    6) moment=save; click 126 69; sleep 0.2; xdotool type "$work/saved.sdk"; xdotool key Return ;;
   esac
 }
 

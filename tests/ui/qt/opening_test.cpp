@@ -103,7 +103,7 @@ class OpeningTest : public QObject {
       Play play;
       if (!french) play.press(Qt::Key_F1);
       BoxAnswer ok(QMessageBox::Ok);
-      choose(path("empty.sdk"));
+      choose_file(path("empty.sdk"));
       QCOMPARE(play.run_program([&] { play.click("Command6"); }), 1);
       QVERIFY(ok.box().text.contains(french ? "empty.sdk: le fichier est vide)"
                                             : "empty.sdk: the file is empty)"));
