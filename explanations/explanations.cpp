@@ -91,12 +91,12 @@ std::string told(const Words& words, const ToldStep& step) {
   }
 }
 
-/// Nothing for a certain step, and for one that is not certain by itself: that one's own sentence
-/// says why.
+/// Nothing for a certain step. Of one that is not certain by itself its own sentence says why.
 std::string told_doubt(const Words& words, const ToldStep& step) {
-  if (step.event().certain || !step.deduction().certain) return "";
+  const auto doubt = step.first_doubt();
+  if (!doubt || *doubt > step.earlier()) return "";
   return words.say({" (pas certain : s'appuie sur l'étape %1)", " (not certain: rests on step %1)"},
-                   step.first_doubt().value());
+                   *doubt);
 }
 
 }  // namespace

@@ -77,17 +77,18 @@ std::string tell_bound_to_diagonal(const Words& words, const ToldStep& step) {
   const Text rest =
       deduction.certain
           ? Text{"%1. %2. Si %3 était %4, l'autre aussi : les %5 pourraient s'échanger, or il n'y a "
-                 "qu'une solution. Donc aucune n'est %4.",
+                 "qu'une solution. Donc ni %7 n'est %4.",
                  "%1. %2. If %3 were %4, both would be: the %5 could be swapped in the corners, "
-                 "but a Sudoku has only one solution. So neither is %4."}
+                 "but a Sudoku has only one solution. So neither %7 is %4."}
           : Text{"%1. %2. Si %3 est %4, l'autre aussi. Si les coins n'ont pas que %5 (pas certain "
-                 "ici : les coins ne sont pas dans deux régions), aucune n'est %4.",
+                 "ici : les coins ne sont pas dans deux régions), ni %7 n'est %4.",
                  "%1. %2. If %3 is %4, both are. If not all corners are %6 (not certain here: the "
-                 "corners do not lie in two boxes), neither is %4."};
+                 "corners do not lie in two boxes), neither %7 is %4."};
   return words.say(rest, cells_told(words, deduction),
                    capital(in_their_units(words, premises_of<DigitInUnit>(deduction))),
                    words.one_of(deduction.cells_as(Role::roof)), removed_digits(deduction).first(),
-                   words.all_of(deduction.digits), words.one_of(deduction.digits));
+                   words.all_of(deduction.digits), words.one_of(deduction.digits),
+                   words.none_of(deduction.cells_as(Role::roof)));
 }
 
 std::string tell_avoidable(const Words& words, const ToldStep& step) {

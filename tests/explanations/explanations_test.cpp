@@ -153,13 +153,14 @@ TEST_F(Explanations, ADigitBoundToADiagonalInFourBoxesIsToldBriefly) {
             "Unique rectangle: r2c1 and r5c8 can only be 3 or 8. In row 2, the 3 can only go in "
             "r2c1 or r2c8; in row 5, only in r5c1 or r5c8. If r2c8 or r5c1 is 3, both are. If not "
             "all corners are 3 or 8 (not certain here: the corners do not lie in two boxes), "
-            "neither is 3. To remove: 3 from r2c8 and r5c1.");
+            "neither r2c8 nor r5c1 is 3. To remove: 3 from r2c8 and r5c1.");
   EXPECT_EQ(french(),
             set_in_french(
                 "Rectangle unique~: L2C1 et L5C8 ne peuvent être que 3 ou 8. Dans la ligne 2, le 3 "
                 "ne va qu'en L2C1 ou L2C8~; ligne 5, qu'en L5C1 ou L5C8. Si L2C8 ou L5C1 est 3, "
                 "l'autre aussi. Si les coins n'ont pas que 3 et 8 (pas certain ici~: les coins ne "
-                "sont pas dans deux régions), aucune n'est 3. À retirer~: 3 de L2C8 et L5C1."));
+                "sont pas dans deux régions), ni L2C8 ni L5C1 n'est 3. À retirer~: 3 de L2C8 et "
+                "L5C1."));
 }
 
 TEST_F(Explanations, AvoidableRectangle) {
@@ -270,6 +271,14 @@ TEST_F(Explanations, AStepAfterOneThatIsNotCertainNamesTheFirst) {
   add(EventKind::removal, *found);
   EXPECT_TRUE(english().ends_with("from r2c8. (not certain: rests on step 2)")) << english();
   EXPECT_TRUE(french().ends_with(set_in_french(" (pas certain~: s'appuie sur l'étape 2)")));
+}
+
+TEST_F(Explanations, AStepThatIsNotCertainByItselfNamesAnEarlierDoubtToo) {
+  add_removal(3, {50}, false);
+  hold({{{2, 1}, {3, 8}}, {{2, 8}, {3, 8, 9}}, {{5, 1}, {3, 7, 8}}, {{5, 8}, {3, 8}}});
+  fire(technique_named("unique_rectangle"));
+  EXPECT_NE(english().find("(not certain here:"), std::string::npos) << english();
+  EXPECT_TRUE(english().ends_with("r5c1. (not certain: rests on step 1)")) << english();
 }
 
 TEST_F(Explanations, EveryEndHasASentence) {

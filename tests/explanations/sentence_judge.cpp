@@ -73,11 +73,10 @@ void judge_names(ToldCase& told) {
 }
 
 void judge_doubts(ToldCase& told) {
-  const bool is_certain_here = told.deduction().certain;
-  told.expect(told.claims.is_uncertain_here == !is_certain_here, "not certain here?");
+  told.expect(told.claims.is_uncertain_here == !told.deduction().certain, "not certain here?");
   const auto is_certain = [](const Event& event) { return event.deduction.certain; };
   const auto first = std::ranges::find(told.hint, false, is_certain) - told.hint.begin() + 1;
-  const bool rests_on_doubt = is_certain_here && !told.event().certain;
+  const bool rests_on_doubt = first <= static_cast<std::ptrdiff_t>(told.index);
   told.expect(told.claims.rests_on == (rests_on_doubt ? first : 0), "another doubt");
 }
 
