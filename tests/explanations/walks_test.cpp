@@ -25,11 +25,11 @@ void expect_true_walk(const std::string& puzzle) {
              [&](const std::deque<Event>& hint) { EXPECT_EQ(faults(hint), "") << puzzle; });
 }
 
-TEST(ToldWalks, EverySentenceOfTheLibraryIsTrueAndComplete) {
+TEST(ToldWalks, SentencesOfTheLibraryAreTrueAndComplete) {
   for (const LibraryEntry& entry : BibliothequeGrilles) expect_true_walk(puzzle_text(entry));
 }
 
-TEST(ToldWalks, EverySentenceOfMadeUpPuzzlesIsTrueAndComplete) {
+TEST(ToldWalks, SentencesOfMadeUpPuzzlesAreTrueAndComplete) {
   const char* const grids = std::getenv("SENTENCE_GRIDS");
   PuzzleGenerator generator(7);
   for (int i = 0; i < (grids ? std::atoi(grids) : 10); ++i)
@@ -50,7 +50,7 @@ std::size_t rules_in_all() {
   return count;
 }
 
-TEST(ToldBoards, EverySentenceOfADrawnBoardIsTrueAndComplete) {
+TEST(ToldBoards, SentencesOfADrawnBoardAreTrueAndComplete) {
   std::set<std::pair<int, Rule>> told;
   for (const BoardFile& file : read_all_boards(BOARDS))
     for (const BoardCase& board : file.cases) {
