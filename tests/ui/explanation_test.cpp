@@ -41,28 +41,16 @@ class Watcher : public WindowListener {
   const MainWindow& window_;
 };
 
-/// The last three digits of this grid are naked singles.
-const char* const three_left =
-    "1234567..\n"
-    "456789123\n"
-    "789123456\n"
-    "231564897\n"
-    "564897231\n"
-    "897231564\n"
-    "312645978\n"
-    "645978312\n"
-    "97831264.\n";
+/// `complete_grid` without its digits at these places of its text, 0-based.
+std::string complete_but_for(std::initializer_list<std::size_t> places) {
+  std::string grid = complete_grid;
+  for (const std::size_t place : places) grid.at(place) = '.';
+  return grid;
+}
 
-const char* const last_left =
-    "123456789\n"
-    "456789123\n"
-    "789123456\n"
-    "231564897\n"
-    "564897231\n"
-    "897231564\n"
-    "312645978\n"
-    "645978312\n"
-    "97831264.\n";
+/// Its last three digits are naked singles.
+const std::string three_left = complete_but_for({7, 8, 88});
+const std::string last_left = complete_but_for({88});
 
 /// Nothing is left for the ninth cell of row 1.
 const char* const dead_grid =

@@ -109,12 +109,7 @@ QToolButton* CommandBar::make_command(Control control, const char* icon, const c
 }
 
 QToolButton* CommandBar::make_button(const char* name, const char* icon) {
-  auto* button = new QToolButton(this);
-  button->setObjectName(name);
-  button->setIcon(button_icon(icon));
-  button->setIconSize({icon_side, icon_side});
-  button->setFixedSize(button_side, button_side);
-  button->setAutoRaise(true);
+  QToolButton* button = make_icon_button(name, icon, icon_side, button_side, this);
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);

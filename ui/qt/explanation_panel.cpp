@@ -57,12 +57,7 @@ ExplanationPanel::ExplanationPanel(QWidget* parent)
 }
 
 QToolButton* ExplanationPanel::make_button(const char* name, const char* icon) {
-  auto* button = new QToolButton(this);
-  button->setObjectName(name);
-  button->setIcon(button_icon(icon));
-  button->setIconSize({icon_side, icon_side});
-  button->setFixedSize(button_side, button_side);
-  button->setAutoRaise(true);
+  QToolButton* button = make_icon_button(name, icon, icon_side, button_side, this);
   button->setFocusPolicy(Qt::TabFocus);
   return button;
 }

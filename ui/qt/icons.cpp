@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QSvgRenderer>
+#include <QToolButton>
 
 // Has to stand outside every namespace.
 static void add_icons_to_the_program() { Q_INIT_RESOURCE(icons); }
@@ -64,6 +65,17 @@ class StencilIcon : public QIconEngine {
 }  // namespace
 
 QIcon button_icon(const char* name) { return QIcon(new StencilIcon(file_of(name))); }
+
+QToolButton* make_icon_button(const char* name, const char* icon, int icon_side, int side,
+                              QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(name);
+  button->setIcon(button_icon(icon));
+  button->setIconSize({icon_side, icon_side});
+  button->setFixedSize(side, side);
+  button->setAutoRaise(true);
+  return button;
+}
 
 QPixmap box_picture(const char* name, int side, double pixel_ratio) {
   QPixmap picture = drawing(file_of(name), QSize(side, side) * pixel_ratio);

@@ -6,11 +6,18 @@
 
 #include <QIcon>
 
+class QToolButton;
+class QWidget;
+
 namespace sdk {
 
 /// The icon drawn in icons/`name`.svg, in the colour of the palette's button text, sharp at any
 /// size.
 QIcon button_icon(const char* name);
+
+/// A flat square button with that icon, sides in pixels; `name` is the object's.
+QToolButton* make_icon_button(const char* name, const char* icon, int icon_side, int side,
+                              QWidget* parent);
 
 /// The picture drawn in icons/`name`.svg, in its own colours, for a screen of that pixel ratio.
 QPixmap box_picture(const char* name, int side, double pixel_ratio);
