@@ -62,6 +62,8 @@ class WindowListener {
   /// The steps of the hint, or which of them is chosen, changed; their language changes with the
   /// controls.
   virtual void explanation_changed() = 0;
+  /// A search begins or is over; it may be one inside another.
+  virtual void searches_changed() = 0;
   /// What changed is to be on screen when the call returns.
   virtual void refresh() = 0;
 };
@@ -148,6 +150,7 @@ class MainWindow final : public Window {
   void leave_step() override;
   void forget_hint() override;
   void forget_outdated_hint() override;
+  void searches_changed() override;
   void refresh() override;
   void set_focus(Control control) override;
   void set_visible(Control control, bool visible) override;

@@ -36,6 +36,7 @@ class Watcher : public WindowListener {
   void lines_drawn() override {}
   void focus_changed() override {}
   void about_changed() override {}
+  void searches_changed() override {}
   void refresh() override {}
 
   const MainWindow& window_;

@@ -27,6 +27,7 @@ class AboutPrinter final : public WindowListener {
   void focus_changed() override {}
   void about_changed() override;
   void explanation_changed() override {}
+  void searches_changed() override {}
   void refresh() override {}
 
   std::ostream& out_;
