@@ -137,6 +137,7 @@ class SearchTest : public QObject {
     BoxAnswer stopped(QMessageBox::Ok);
     later(50, [this] { play_->click("Command1"); });
     QCOMPARE(play_->run_program([this] { play_->frame.finish_start(); }), -1);
+    play_->settle();
     QVERIFY(stopped.was_shown());
     QVERIFY(play_->frame.windowTitle() != path);
     QCOMPARE(state_fault(play_->window), "");
