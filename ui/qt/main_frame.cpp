@@ -20,6 +20,13 @@ namespace {
 constexpr int band_margin = 12;
 constexpr int explanation_margin = 8;
 
+template <class Part>
+Part* make_part(const char* name, QWidget* parent) {
+  auto* part = new Part(parent);
+  part->setObjectName(name);
+  return part;
+}
+
 QFrame* make_frame(Control control, QWidget* parent) {
   auto* frame = new QFrame(parent);
   name_after(*frame, control);
@@ -46,14 +53,14 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
     : QWidget(nullptr, Qt::Window | frame_buttons),
       window_(window),
       guard_(guard),
-      commands_(new CommandBar(this)),
+      commands_(make_part<CommandBar>("commands", this)),
       rect_(make_frame(Control::rect, this)),
       msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames}, this)),
       rect2_(make_frame(Control::rect2, this)),
       msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false, StepLook::cells},
                      this)),
-      options_(new OptionBar(this)),
-      explanation_(new ExplanationPanel(this)),
+      options_(make_part<OptionBar>("options", this)),
+      explanation_(make_part<ExplanationPanel>("explanation", this)),
       lines_(new LineOverlay(window, this)),
       gate_(*this, *explanation_),
       stopper_(window, guard),
@@ -62,9 +69,6 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       long_search_([this] { update_explanation_.ask(); }) {
   install_accessible_roles();
   setObjectName("sudoku");
-  commands_->setObjectName("commands");
-  options_->setObjectName("options");
-  explanation_->setObjectName("explanation");
   lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
