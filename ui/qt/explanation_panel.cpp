@@ -33,6 +33,9 @@ QLabel* make_notice(const char* name, QWidget* parent) {
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
   label->hide();
   return label;
 }

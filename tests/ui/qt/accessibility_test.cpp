@@ -64,7 +64,7 @@ constexpr ControlRow control_rows[] = {
      "Press on the F1 key for english or F2 for french"},
     {"explanation", QAccessible::Grouping, "invisible", "Explication", "Explanation"},
     {"searching", QAccessible::StaticText, "read-only invisible",
-     "Recherche en cours, Échap l'arrête", "Searching, Escape stops it"},
+     "Recherche en cours… Échap l'arrête.", "Searching… Escape stops it."},
     {"steps", QAccessible::List, "focusable invisible", "Explication", "Explanation"},
     {"previous_step", QAccessible::Button, "focusable invisible", "Étape précédente",
      "Previous step"},

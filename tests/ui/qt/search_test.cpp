@@ -185,9 +185,9 @@ class SearchTest : public QObject {
     BoxAnswer stopped(QMessageBox::Ok);
     later(600, [this] {
       QVERIFY(notice().isVisible());
-      QCOMPARE(notice().text(), "Recherche en cours, Échap l'arrête");
+      QCOMPARE(notice().text(), "Recherche en cours… Échap l'arrête.");
       play_->press(Qt::Key_F1);
-      QCOMPARE(notice().text(), "Searching, Escape stops it");
+      QCOMPARE(notice().text(), "Searching… Escape stops it.");
       play_->press(Qt::Key_Escape);
     });
     search_and([this] { QVERIFY(!notice().isVisible()); });
