@@ -16,19 +16,24 @@ namespace {
 /// Counts a search as running for as long as it lives.
 class CountedSearch {
  public:
-  explicit CountedSearch(int& running) : running_(running) { ++running_; }
-  ~CountedSearch() { --running_; }
+  explicit CountedSearch(Window& window) : window_(window) { count(1); }
+  ~CountedSearch() { count(-1); }
   CountedSearch(const CountedSearch&) = delete;
   CountedSearch& operator=(const CountedSearch&) = delete;
 
  private:
-  int& running_;
+  void count(int more) {
+    window_.searches_running += more;
+    window_.searches_changed();
+  }
+
+  Window& window_;
 };
 
 /// Events may run between two steps, and a search or a read started by one of them works on the
 /// same fields; it may leave the cell under test outside the grid.
 void run_search(Window& w) {
-  const CountedSearch counted(w.searches_running);
+  const CountedSearch counted(w);
   const SearchCursor cursor{w.NumCase, w.Ligne, w.Colonne};
   Search search(w.Grille, w.GrilleInitiale, cursor);
   unsigned fills = w.grid_fills;

@@ -92,6 +92,8 @@ class Window {
   virtual void forget_hint() = 0;
   /// The same when the steps that are told are those of another grid than `MSF` shows.
   virtual void forget_outdated_hint() = 0;
+  /// A search begins or is over; `searches_running` has changed.
+  virtual void searches_changed() = 0;
   /// Repaints the whole window.
   virtual void refresh() = 0;
   /// Gives the keyboard focus to a control.

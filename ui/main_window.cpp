@@ -95,6 +95,10 @@ void MainWindow::forget_outdated_hint() {
   if (explanation_.is_outdated(MSF)) forget_hint();
 }
 
+void MainWindow::searches_changed() {
+  if (listener_) listener_->searches_changed();
+}
+
 void MainWindow::refresh() {
   if (listener_) listener_->refresh();
 }

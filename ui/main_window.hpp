@@ -47,23 +47,25 @@ struct LevelItem {
   std::int16_t level;  ///< 0..4; the level is read from here, never from the position or the name
 };
 
-/// Who draws the window hears of its changes here.
+/// Who draws the window hears of its changes here; whoever is not concerned by one passes it over.
 class WindowListener {
  public:
   virtual ~WindowListener() = default;
   /// A caption, tooltip, tick or visibility, the level list or the window's title changed.
-  virtual void controls_changed() = 0;
-  virtual void layout_changed() = 0;
+  virtual void controls_changed() {}
+  virtual void layout_changed() {}
   /// The box lines were drawn; they are in MainWindow::lines.
-  virtual void lines_drawn() = 0;
-  virtual void focus_changed() = 0;
+  virtual void lines_drawn() {}
+  virtual void focus_changed() {}
   /// The about box was opened or closed.
-  virtual void about_changed() = 0;
+  virtual void about_changed() {}
   /// The steps of the hint, or which of them is chosen, changed; their language changes with the
   /// controls.
-  virtual void explanation_changed() = 0;
+  virtual void explanation_changed() {}
+  /// A search begins or is over; it may be one inside another.
+  virtual void searches_changed() {}
   /// What changed is to be on screen when the call returns.
-  virtual void refresh() = 0;
+  virtual void refresh() {}
 };
 
 /// Every public handler ends the program by ProgramEnd when the player quits, and with status 1
@@ -148,6 +150,7 @@ class MainWindow final : public Window {
   void leave_step() override;
   void forget_hint() override;
   void forget_outdated_hint() override;
+  void searches_changed() override;
   void refresh() override;
   void set_focus(Control control) override;
   void set_visible(Control control, bool visible) override;

@@ -95,6 +95,7 @@ constexpr NoticeText notice_texts[] = {
     {Notice::commands, {"Commandes", "Commands"}},
     {Notice::options, {"Options", "Options"}},
     {Notice::explanation, {"Explication", "Explanation"}},
+    {Notice::searching, {"Recherche en cours… Échap l'arrête.", "Searching… Escape stops it."}},
     {Notice::previous_step, {"Étape précédente", "Previous step"}},
     {Notice::next_step, {"Étape suivante", "Next step"}},
     {Notice::rescued_grids, {"Grilles récupérées", "Rescued grids"}},

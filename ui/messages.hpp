@@ -42,6 +42,7 @@ enum class Notice {
   commands,         ///< accessible name of the buttons as a whole
   options,          ///< accessible name of the options as a whole
   explanation,      ///< accessible name of the steps of a hint
+  searching,        ///< a search runs, and how to stop it
   previous_step,    ///< accessible name and tooltip of the button that goes back a step
   next_step,        ///< the same, of the button that goes on to the next one
   rescued_grids,    ///< name of the folder of the grids that the program saved unasked

@@ -94,12 +94,9 @@ class Game : private WindowListener {
   }
 
  private:
-  void controls_changed() override {}
   void layout_changed() override { repaints.push_back("layout"); }
   void lines_drawn() override { repaints.push_back("lines"); }
-  void focus_changed() override {}
   void about_changed() override { repaints.push_back("about"); }
-  void explanation_changed() override {}
   void refresh() override { repaints.push_back("refresh window"); }
 };
 

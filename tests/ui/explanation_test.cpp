@@ -31,13 +31,6 @@ class Watcher : public WindowListener {
   }
 
  private:
-  void controls_changed() override {}
-  void layout_changed() override {}
-  void lines_drawn() override {}
-  void focus_changed() override {}
-  void about_changed() override {}
-  void refresh() override {}
-
   const MainWindow& window_;
 };
 

@@ -21,13 +21,7 @@ class AboutPrinter final : public WindowListener {
   void listen_to(MainWindow& window);
 
  private:
-  void controls_changed() override {}
-  void layout_changed() override {}
-  void lines_drawn() override {}
-  void focus_changed() override {}
   void about_changed() override;
-  void explanation_changed() override {}
-  void refresh() override {}
 
   std::ostream& out_;
   const MainWindow* window_ = nullptr;

@@ -3,7 +3,9 @@
 
 #include "ui/qt/explanation_panel.hpp"
 
+#include <QAccessible>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -26,6 +28,18 @@ QStringList numbered(const std::vector<std::string>& texts) {
   return rows;
 }
 
+QLabel* make_notice(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  label->hide();
+  return label;
+}
+
 void name_button(QToolButton& button, Notice name) {
   button.setToolTip(notice_text(name));
   set_accessible_name(button, notice_text(name));
@@ -36,6 +50,7 @@ void name_button(QToolButton& button, Notice name) {
 // The order in which the controls are made is the order of Tab.
 ExplanationPanel::ExplanationPanel(QWidget* parent)
     : QWidget(parent),
+      search_(make_notice("searching", this)),
       steps_(new StepList(this)),
       previous_(make_button("previous_step", "previous_step")),
       next_(make_button("next_step", "next_step")) {
@@ -43,6 +58,7 @@ ExplanationPanel::ExplanationPanel(QWidget* parent)
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(2);
+  columns->addWidget(search_);
   columns->addWidget(steps_);
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(2);
@@ -62,13 +78,25 @@ QToolButton* ExplanationPanel::make_button(const char* name, const char* icon) {
   return button;
 }
 
-void ExplanationPanel::show_state(const Explanation& explanation) {
+void ExplanationPanel::show_state(const Explanation& explanation, bool searching) {
   set_accessible_name(*this, notice_text(Notice::explanation));
   set_accessible_name(*steps_, notice_text(Notice::explanation));
   name_button(*previous_, Notice::previous_step);
   name_button(*next_, Notice::next_step);
   steps_->show_steps(numbered(explanation.texts(globals.Langue)), explanation.chosen());
-  setVisible(explanation.size() > 0);
+  for (QWidget* part : std::initializer_list<QWidget*>{steps_, previous_, next_})
+    part->setVisible(!searching);
+  setVisible(searching || explanation.size() > 0);
+  show_search(searching);
+}
+
+void ExplanationPanel::show_search(bool searching) {
+  const bool begins = searching && !search_->isVisible();
+  search_->setText(notice_text(Notice::searching));
+  search_->setVisible(searching);
+  if (!begins) return;
+  QAccessibleEvent event(search_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
 
 bool ExplanationPanel::leave_step() {

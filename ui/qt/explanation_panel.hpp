@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 /// The explanation of the last hint, beside the options: its steps, and two buttons that lead
-/// through them.
+/// through them. During a search it says so instead.
 #pragma once
 
 #include <QWidget>
@@ -10,21 +10,23 @@
 
 #include "ui/explanation.hpp"
 
+class QLabel;
 class QToolButton;
 
 namespace sdk {
 
 class StepList;
 
-/// Not to be seen while there is nothing to explain.
+/// Not to be seen while there is nothing to say.
 class ExplanationPanel : public QWidget {
   Q_OBJECT
 
  public:
   explicit ExplanationPanel(QWidget* parent);
 
-  /// Shows the steps as `explanation` has them, in the current language.
-  void show_state(const Explanation& explanation);
+  /// Shows the steps as `explanation` has them, or, while the player waits for a search, how to
+  /// stop it; in the current language.
+  void show_state(const Explanation& explanation, bool searching);
 
   /// Leaves the chosen step, if there is one and the keyboard focus is here.
   bool leave_step();
@@ -38,7 +40,9 @@ class ExplanationPanel : public QWidget {
 
  private:
   QToolButton* make_button(const char* name, const char* icon);
+  void show_search(bool searching);
 
+  QLabel* search_;
   StepList* steps_;
   QToolButton* previous_;
   QToolButton* next_;

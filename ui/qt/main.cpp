@@ -45,7 +45,7 @@ int play(QtDesktop& desktop, ProgramGuard& guard, const std::string& line, FontR
   });
   frame.centre_on_screen();
   frame.show();
-  QTimer::singleShot(0, &frame, [&] { guard.run([&] { window.finish_start(); }); });
+  QTimer::singleShot(0, &frame, &MainFrame::finish_start);
   QApplication::exec();
   return guard.status().value_or(0);
 }

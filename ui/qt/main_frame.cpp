@@ -20,6 +20,13 @@ namespace {
 constexpr int band_margin = 12;
 constexpr int explanation_margin = 8;
 
+template <class Part>
+Part* make_part(const char* name, QWidget* parent) {
+  auto* part = new Part(parent);
+  part->setObjectName(name);
+  return part;
+}
+
 QFrame* make_frame(Control control, QWidget* parent) {
   auto* frame = new QFrame(parent);
   name_after(*frame, control);
@@ -46,23 +53,22 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
     : QWidget(nullptr, Qt::Window | frame_buttons),
       window_(window),
       guard_(guard),
-      commands_(new CommandBar(this)),
+      commands_(make_part<CommandBar>("commands", this)),
       rect_(make_frame(Control::rect, this)),
       msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames}, this)),
       rect2_(make_frame(Control::rect2, this)),
       msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false, StepLook::cells},
                      this)),
-      options_(new OptionBar(this)),
-      explanation_(new ExplanationPanel(this)),
+      options_(make_part<OptionBar>("options", this)),
+      explanation_(make_part<ExplanationPanel>("explanation", this)),
       lines_(new LineOverlay(window, this)),
       gate_(*this, *explanation_),
+      stopper_(window, guard),
       update_(*this, [this] { show_state(); }),
-      update_explanation_(*this, [this] { show_explanation(); }) {
+      update_explanation_(*this, [this] { show_explanation(); }),
+      long_search_([this] { update_explanation_.ask(); }) {
   install_accessible_roles();
   setObjectName("sudoku");
-  commands_->setObjectName("commands");
-  options_->setObjectName("options");
-  explanation_->setObjectName("explanation");
   lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
@@ -76,9 +82,11 @@ MainFrame::~MainFrame() { window_.set_listener(nullptr); }
 
 void MainFrame::connect_bars() {
   connect(commands_, &CommandBar::clicked, this,
-          [this](Control button) { act([&] { window_.click(button); }); });
-  connect(commands_, &CommandBar::undo_clicked, this, [this] { act([&] { window_.undo(); }); });
-  connect(commands_, &CommandBar::redo_clicked, this, [this] { act([&] { window_.redo(); }); });
+          [this](Control b) { act([this, b] { window_.click(b); }, during_search(b)); });
+  connect(commands_, &CommandBar::undo_clicked, this,
+          [this] { act([this] { window_.undo(); }, DuringSearch::stops_it); });
+  connect(commands_, &CommandBar::redo_clicked, this,
+          [this] { act([this] { window_.redo(); }, DuringSearch::stops_it); });
   connect(commands_, &CommandBar::focus_lost, this,
           [this](Control button) { guard_.run([&] { window_.focus_lost(button); }); });
   connect(options_, &OptionBar::ticked, this,
@@ -91,9 +99,9 @@ void MainFrame::connect_bars() {
 
 /// Handles a command of the player. A screen reader gives it without an event that the gate sees;
 /// then the control that it used is set right again.
-void MainFrame::act(const std::function<void()>& handler) {
+void MainFrame::act(const std::function<void()>& handler, DuringSearch during) {
   if (gate_.is_asking()) return update_.ask();
-  guard_.run(handler);
+  stopper_.run(handler, during);
 }
 
 void MainFrame::connect_grids() {
@@ -108,6 +116,10 @@ void MainFrame::connect_grids() {
 void MainFrame::watch_application() {
   qApp->installEventFilter(this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrame::expect_session_end);
+}
+
+void MainFrame::finish_start() {
+  act([this] { window_.finish_start(); });
 }
 
 int MainFrame::ask_about_hint(QMessageBox& box) {
@@ -148,6 +160,8 @@ void MainFrame::about_changed() {
 }
 
 void MainFrame::explanation_changed() { update_explanation_.ask(); }
+
+void MainFrame::searches_changed() { long_search_.set_searches(window_.searches_running); }
 
 void MainFrame::close_about() {
   if (!about_) return;
@@ -192,7 +206,7 @@ void MainFrame::show_explanation() {
   msr_->show_step(beside ? step : std::nullopt);
   msf_->show_step(beside ? std::nullopt : step);
   if (explanation.size() == 0 && explanation_->isAncestorOf(focusWidget())) msf_->setFocus();
-  explanation_->show_state(explanation);
+  explanation_->show_state(explanation, long_search_.is_noticed());
 }
 
 void MainFrame::show_grid_names() {

@@ -15,9 +15,11 @@
 #include "ui/qt/explanation_panel.hpp"
 #include "ui/qt/grid_view.hpp"
 #include "ui/qt/line_overlay.hpp"
+#include "ui/qt/long_search.hpp"
 #include "ui/qt/option_bar.hpp"
 #include "ui/qt/program_guard.hpp"
 #include "ui/qt/question_gate.hpp"
+#include "ui/qt/search_stopper.hpp"
 
 namespace sdk {
 
@@ -31,6 +33,9 @@ class MainFrame : public QWidget, private WindowListener {
 
   /// To be called once, before the window is shown: places it in the middle of the screen.
   void centre_on_screen();
+
+  /// The rest of start-up, to be called once the window is shown.
+  void finish_start();
 
   /// Asks the question of a hint, which the explanation of the hint is read beside; returns what
   /// QuestionGate::ask returns.
@@ -51,13 +56,14 @@ class MainFrame : public QWidget, private WindowListener {
   void focus_changed() override;
   void about_changed() override;
   void explanation_changed() override;
+  void searches_changed() override;
   void refresh() override;
 
   void connect_bars();
   void connect_grids();
   void watch_application();
 
-  void act(const std::function<void()>& handler);
+  void act(const std::function<void()>& handler, DuringSearch during = DuringSearch::acts);
   void preview(int code);
   void open_about();
   void close_about();
@@ -78,9 +84,11 @@ class MainFrame : public QWidget, private WindowListener {
   ExplanationPanel* explanation_;
   LineOverlay* lines_;
   QuestionGate gate_;
+  SearchStopper stopper_;
   AboutDialog* about_ = nullptr;  ///< exists while the box is shown
   DeferredCall update_;
   DeferredCall update_explanation_;
+  LongSearch long_search_;
   bool session_ends_ = false;
 };
 

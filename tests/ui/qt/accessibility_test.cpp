@@ -63,6 +63,8 @@ constexpr ControlRow control_rows[] = {
      "Appuyer sur la touche F1 pour passer en Anglais, F2 pour le Français",
      "Press on the F1 key for english or F2 for french"},
     {"explanation", QAccessible::Grouping, "invisible", "Explication", "Explanation"},
+    {"searching", QAccessible::StaticText, "read-only invisible",
+     "Recherche en cours… Échap l'arrête.", "Searching… Escape stops it."},
     {"steps", QAccessible::List, "focusable invisible", "Explication", "Explanation"},
     {"previous_step", QAccessible::Button, "focusable invisible", "Étape précédente",
      "Previous step"},

@@ -11,9 +11,9 @@
 
 namespace sdk::test {
 
-Play::Play() {
+Play::Play(const std::string& command_line) {
   desktop.set_window(&frame);
-  guard.run([this] { window.start(""); });
+  guard.run([&] { window.start(command_line); });
   frame.centre_on_screen();
   frame.show();
   QApplication::setActiveWindow(&frame);

@@ -20,7 +20,8 @@ namespace sdk::test {
 /// The game as main() starts it, shown and with the focus.
 class Play {
  public:
-  Play();
+  /// `command_line` names the file that is opened, if any; finish_start is not called.
+  explicit Play(const std::string& command_line = "");
 
   ProgramGuard guard;
   QtDesktop desktop{guard};
