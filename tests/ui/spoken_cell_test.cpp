@@ -19,7 +19,7 @@ class SpokenCell : public testing::Test {
                      Mark mark = Mark::none) {
     grid.make_current(4, 4);
     grid.set_text(text);
-    grid.set_text_colour(text_colour);
+    grid.set_verdict(text_colour);
     grid.set_back_colour(back_colour);
     grid.set_mark(static_cast<int>(mark));
     return spoken_cell(grid, 4, 4, "En");

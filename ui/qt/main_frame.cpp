@@ -48,10 +48,11 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       guard_(guard),
       commands_(new CommandBar(this)),
       rect_(make_frame(Control::rect, this)),
-      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames}, this)),
-      rect2_(make_frame(Control::rect2, this)),
-      msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false, StepLook::cells},
+      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames, true},
                      this)),
+      rect2_(make_frame(Control::rect2, this)),
+      msr_(make_grid(Control::MSR, window.MSR,
+                     {candidates_font_size, false, StepLook::cells, false}, this)),
       options_(new OptionBar(this)),
       explanation_(new ExplanationPanel(this)),
       lines_(new LineOverlay(window, this)),
@@ -190,7 +191,7 @@ void MainFrame::show_explanation() {
   const bool beside = window_.visible(Control::rect2);
   const std::optional<StepPicture> step = explanation.picture();
   msr_->show_step(beside ? step : std::nullopt);
-  msf_->show_step(beside ? std::nullopt : step);
+  msf_->show_step(beside ? std::nullopt : step ? step : explanation.outcome());
   if (explanation.size() == 0 && explanation_->isAncestorOf(focusWidget())) msf_->setFocus();
   explanation_->show_state(explanation);
 }

@@ -204,13 +204,15 @@ class LegibilityTest : public QObject {
   void a_wrong_value_is_underlined_on_every_background() {
     for (const NamedColour& back : puzzle_backgrounds)
       for (const NamedColour& text : puzzle_texts) {
-        const DisplayCell cell{.text = "8", .text_colour = text.colour, .back_colour = back.colour};
-        QCOMPARE(is_underlined(painted(cell)), text.colour == colour::red);
+        const bool wrong = text.colour == colour::red;
+        const DisplayCell cell{
+            .text = "8", .text_colour = text.colour, .back_colour = back.colour, .wrong = wrong};
+        QCOMPARE(is_underlined(painted(cell)), wrong);
       }
   }
 
   void an_empty_cell_is_never_underlined() {
-    QVERIFY(!is_underlined(painted({.text = " ", .text_colour = colour::red})));
+    QVERIFY(!is_underlined(painted({.text = " ", .text_colour = colour::red, .wrong = true})));
   }
 
   void a_clash_is_underlined_on_screen_until_it_is_gone() {
@@ -239,7 +241,7 @@ class LegibilityTest : public QObject {
   void a_wrong_value_is_underlined_on_paper() {
     play_->window.MSF.make_current(8, 8);
     play_->window.MSF.set_text("7");
-    play_->window.MSF.set_text_colour(colour::red);
+    play_->window.MSF.set_verdict(colour::red);
     QImage page(9 * cell_side, 9 * cell_side, QImage::Format_RGB32);
     QPainter painter(&page);
     paint_puzzle(painter, play_->window.MSF.cells());
