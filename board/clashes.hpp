@@ -4,6 +4,8 @@
 /// The three rules of the game in one question.
 #pragma once
 
+#include <cstdint>
+
 #include "board/cell_set.hpp"
 #include "board/square.hpp"
 
@@ -11,7 +13,7 @@ namespace sdk {
 
 /// Whether the value of a cell stands in a cell that it sees too. An empty cell's 0 is a value like
 /// any other. `grid` gives the value at a row and a column, both 1..9, as a Square does.
-template <class Grid>
+template <class Grid = Square<std::int16_t>>
 constexpr bool has_clash(const Grid& grid, Cell cell) {
   for (const int number : peers_of(cell)) {
     const Cell peer = cell_at(number);

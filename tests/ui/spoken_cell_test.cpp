@@ -95,6 +95,25 @@ TEST_F(SpokenCell, SpeaksFrench) {
   EXPECT_EQ(spoken_cell(grid, 4, 4, "Fr"), "ligne 5, colonne 5: 7, faux, donné");
 }
 
+TEST_F(SpokenCell, TellsWhatClashesInThePuzzleAlone) {
+  spoken("7", colour::black, yellow);
+  grid.set_text(4, 0, "7");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, clashes, given");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 0, "Fr"), "ligne 5, colonne 1: 7, en conflit");
+  EXPECT_EQ(spoken_cell(grid, 4, 4, "En"), "row 5, column 5: 7, given");
+  grid.set_text(4, 0, "8");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, given");
+}
+
+TEST_F(SpokenCell, TellsRedAsWrongWhileItClashes) {
+  spoken("7", colour::green, colour::white);
+  grid.set_text_colour(colour::red);
+  grid.set_text(4, 0, "7");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, wrong");
+  grid.set_text(4, 0, "8");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7");
+}
+
 /// The cell in the middle of a step's drawing.
 std::string spoken(const PictureCell& cell, std::string_view language = "En") {
   return spoken_cell(cell, 4, 4, language);

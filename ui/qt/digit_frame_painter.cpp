@@ -10,7 +10,7 @@ namespace sdk {
 namespace {
 
 // The cells are light in every theme, so these colours do not follow the palette.
-constexpr QColor clash_colour(0xb0, 0, 0);
+constexpr QColor clash_colour(0xc0, 0, 0);
 constexpr QColor equal_colour(0, 0x66, 0x70);
 
 constexpr int width = 2;

@@ -10,6 +10,7 @@
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/contrast.hpp"
+#include "ui/qt/digit_frame_painter.hpp"
 
 namespace sdk::test {
 
@@ -123,6 +124,24 @@ QString table_row(const Pair& pair) {
          " |\n";
 }
 
+constexpr std::pair<DigitFrame, const char*> frames[] = {{DigitFrame::clash, "clash"},
+                                                         {DigitFrame::equal, "equal digit"}};
+
+QString frame_row(const NamedColour& back, DigitFrame frame, const char* name) {
+  const QColor plain = to_qcolor(back.colour), drawn = frame_colour(frame);
+  const QColor tinted = to_qcolor(selected_background(back.colour));
+  return "| " +
+         QStringList{back.name,
+                     hex(plain),
+                     name,
+                     hex(drawn),
+                     two_places(contrast(drawn, plain)),
+                     hex(tinted),
+                     two_places(contrast(drawn, tinted))}
+             .join(" | ") +
+         " |\n";
+}
+
 QString read(const char* file) {
   QFile page(file);
   return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
@@ -199,6 +218,22 @@ class LegibilityTest : public QObject {
     for (const Pair& pair : all_pairs(play_->window)) table += table_row(pair);
     if (!read(CONTRAST_PAGE).contains("|\n" + table + "\n"))
       QFAIL(qPrintable("docs/contrast.md should have this table:\n" + table));
+  }
+
+  void every_frame_stands_out_from_every_background() {
+    for (const auto& [frame, name] : frames)
+      for (const NamedColour& back : puzzle_backgrounds)
+        for (const Colour shown : {back.colour, selected_background(back.colour)})
+          QVERIFY2(contrast(frame_colour(frame), to_qcolor(shown)) >= 3,
+                   qPrintable(frame_row(back, frame, name)));
+  }
+
+  void the_page_on_contrast_shows_the_frames() {
+    QString table;
+    for (const NamedColour& back : puzzle_backgrounds)
+      for (const auto& [frame, name] : frames) table += frame_row(back, frame, name);
+    if (!read(CONTRAST_PAGE).contains("|\n" + table + "\n"))
+      QFAIL(qPrintable("docs/contrast.md should have this table of frames:\n" + table));
   }
 
   void a_wrong_value_is_underlined_on_every_background() {
