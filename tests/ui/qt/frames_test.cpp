@@ -81,6 +81,7 @@ class FramesTest : public QObject {
     play_->type("5");
     play_->click("Command7");
     QVERIFY(is_underlined(1, 9));
+    play_->click_cell(1, 9);
     play_->type("7");
     QVERIFY(!is_underlined(1, 9));
     play_->press(Qt::Key_Z, Qt::ControlModifier);
@@ -133,7 +134,6 @@ class FramesTest : public QObject {
       for (int i = 0; i < 2; ++i) QTest::mouseClick(&play_->find("next_step"), Qt::LeftButton);
       offer = changed_cells(before, picture());
     });
-    QVERIFY(!step.contains(6 * 9 - 2));
     QVERIFY(step.size() > 1);
     QCOMPARE(offer, QList<int>{6 * 9 - 2});
   }
@@ -158,7 +158,7 @@ class FramesTest : public QObject {
     play_->click_cell(9, 9);
     QCOMPARE(changed_cells(before, picture()), QList<int>{9});
     play_->type("4");
-    QCOMPARE(changed_cells(before, picture()), (QList<int>{4, 81}));
+    QCOMPARE(changed_cells(before, picture()), QList<int>{4});  // equal to the typed one
   }
 
  private:
@@ -191,10 +191,14 @@ class FramesTest : public QObject {
     return false;
   }
 
-  static QList<int> changed_cells(const QImage& before, const QImage& after) {
+  /// Apart from the current one, whose border tells the focus.
+  QList<int> changed_cells(const QImage& before, const QImage& after) {
     QList<int> changed;
     for (int number = 1; number <= 81; ++number) {
       const Cell cell = cell_at(number);
+      if (cell.row - 1 == play_->window.MSF.current_row() &&
+          cell.column - 1 == play_->window.MSF.current_column())
+        continue;
       const QRect square((cell.column - 1) * cell_side, (cell.row - 1) * cell_side, cell_side,
                          cell_side);
       if (before.copy(square) != after.copy(square)) changed << number;
