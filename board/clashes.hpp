@@ -12,8 +12,9 @@
 namespace sdk {
 
 /// Whether the value of a cell stands in a cell that it sees too. An empty cell's 0 is a value like
-/// any other.
-constexpr bool has_clash(const Square<std::int16_t>& grid, Cell cell) {
+/// any other. `grid` gives the value at a row and a column, both 1..9, as a Square does.
+template <class Grid = Square<std::int16_t>>
+constexpr bool has_clash(const Grid& grid, Cell cell) {
   for (const int number : peers_of(cell)) {
     const Cell peer = cell_at(number);
     if (grid(peer.row, peer.column) == grid(cell.row, cell.column)) return true;

@@ -110,7 +110,7 @@ void Window::essai() {
     for (int i = 1; i <= 9; ++i)
       for (int j = 1; j <= 9; ++j) {
         MSF.make_current(i - 1, j - 1);
-        MSF.set_text_colour(verdict(MSF.current(), character(ChaineSolution, Cell{i, j}.number())));
+        MSF.set_verdict(verdict(MSF.current(), character(ChaineSolution, Cell{i, j}.number())));
       }
   }
   MSF.refresh();

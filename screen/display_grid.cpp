@@ -19,7 +19,9 @@ DisplayCell& DisplayGrid::cell_at(int row, int column) {
 }
 
 void DisplayGrid::set_text(int row, int column, std::string text) {
-  cell_at(row, column).text = std::move(text);
+  DisplayCell& written = cell_at(row, column);
+  written.text = std::move(text);
+  written.wrong = false;
   if (listener_) listener_->cell_changed(row, column);
 }
 
@@ -47,7 +49,16 @@ CellRange DisplayGrid::selection() const {
 }
 
 void DisplayGrid::set_text_colour(Colour colour) {
-  cell_at(row_, column_).text_colour = colour;
+  DisplayCell& cell = cell_at(row_, column_);
+  cell.wrong = cell.wrong && colour == cell.text_colour;
+  cell.text_colour = colour;
+  tell_current_cell();
+}
+
+void DisplayGrid::set_verdict(Colour colour) {
+  DisplayCell& cell = cell_at(row_, column_);
+  cell.text_colour = colour;
+  cell.wrong = colour == colour::red;
   tell_current_cell();
 }
 

@@ -19,17 +19,17 @@ struct DisplayCell {
   std::string text = " ";
   Colour text_colour = colour::black;
   Colour back_colour = colour::white;
-  int font_size = 0;  ///< in points; 0 is the grid's own size
-  int mark = 0;       ///< the last mark mode given to the cell, 0..6
+  int font_size = 0;   ///< in points; 0 is the grid's own size
+  int mark = 0;        ///< the last mark mode given to the cell, 0..6
+  bool wrong = false;  ///< red because the text was compared with the solution and differs
 
   bool operator==(const DisplayCell&) const = default;
 
   /// A coloured background is all that tells a given of the puzzle from a player's cell.
   bool is_given() const { return back_colour != colour::white; }
-  /// Red is all that tells a wrong value; in an empty cell it does not show.
-  bool is_wrong() const {
-    return text_colour == colour::red && text.find_first_not_of(' ') != std::string::npos;
-  }
+  /// Red alone tells no wrong value: it outlasts the clash that it was given for, and is given for
+  /// a clash elsewhere. In an empty cell nothing shows.
+  bool is_wrong() const { return wrong && text.find_first_not_of(' ') != std::string::npos; }
 };
 
 /// A block of cells, both ends included.
@@ -61,7 +61,8 @@ class DisplayGrid {
   /// Empty means exactly one space; anything else counts as filled, an empty text too.
   bool is_filled(int row, int column) const { return text(row, column) != " "; }
 
-  /// Writes a cell's text without making the cell current.
+  /// Writes a cell's text without making the cell current. What was found of the text before, that
+  /// it is wrong, goes with it.
   void set_text(int row, int column, std::string text);
 
   /// Replaces all of a cell without making it current.
@@ -75,9 +76,12 @@ class DisplayGrid {
   int current_column() const { return column_; }
   CellRange selection() const;
 
-  // The next five write to the current cell.
+  // The next six write to the current cell.
   void set_text(std::string text) { set_text(row_, column_, std::move(text)); }
+  /// A cell that takes another colour is not wrong any more.
   void set_text_colour(Colour colour);
+  /// The colour that a comparison with the solution gives the text: with red the cell is wrong.
+  void set_verdict(Colour colour);
   void set_back_colour(Colour colour);
   void set_font_size(int points);
   void set_mark(int mode);

@@ -29,7 +29,7 @@ struct TextDrawing {
   bool operator==(const TextDrawing&) const = default;
 };
 
-/// A grid as the player sees it, without its box lines, scaled into the rectangle.
+/// A grid as the player sees it, without box lines and frames, scaled into the rectangle.
 struct PictureDrawing {
   float x, y, width, height;
   std::vector<DisplayCell> cells;  ///< 81, row by row

@@ -89,7 +89,7 @@ void MainWindow::write_digit(char digit) {
   verify_valide();
   if (!VerifAuVol || !GrilleValide) return;
   const bool right = character(ChaineSolution, row * 9 + column + 1) == MSF.text(row, column);
-  MSF.set_text_colour(right ? colour::green : colour::red);
+  MSF.set_verdict(right ? colour::green : colour::red);
 }
 
 }  // namespace sdk

@@ -27,6 +27,7 @@ void Explanation::tell(const DisplayGrid& grid) {
 void Explanation::clear() {
   puzzle_.clear();
   chosen_.reset();
+  answered_ = false;
 }
 
 bool Explanation::is_outdated(const DisplayGrid& grid) const {
@@ -47,6 +48,18 @@ void Explanation::choose(std::optional<std::size_t> step) {
 std::optional<StepPicture> Explanation::picture() const {
   if (!chosen_) return std::nullopt;
   return picture_of(solver.hint->events()[*chosen_]);
+}
+
+void Explanation::leave() {
+  chosen_.reset();
+  answered_ = true;
+}
+
+std::optional<StepPicture> Explanation::outcome() const {
+  if (size() == 0) return std::nullopt;
+  const Event& last = solver.hint->events().back();
+  const bool open = last.kind == EventKind::offer && !answered_;
+  return open || last.kind == EventKind::dead ? std::optional(picture_of(last)) : std::nullopt;
 }
 
 std::string Explanation::fault(const DisplayGrid& grid) const {

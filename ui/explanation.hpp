@@ -37,12 +37,19 @@ class Explanation {
   /// The chosen step as a drawing, if there is one.
   std::optional<StepPicture> picture() const;
 
+  /// The question that the steps lead to is answered, and no step is chosen any more.
+  void leave();
+  /// What the player is to look at while no step is chosen, as a drawing: the offer until it is
+  /// answered, or the cell that is dead.
+  std::optional<StepPicture> outcome() const;
+
   /// Empty when all of this holds together, and with what `grid` shows; else what does not.
   std::string fault(const DisplayGrid& grid) const;
 
  private:
   std::vector<std::string> puzzle_;  ///< the cells' texts, row by row; none while it is empty
   std::optional<std::size_t> chosen_;
+  bool answered_ = false;  ///< only offers ask
 };
 
 }  // namespace sdk

@@ -8,14 +8,15 @@
 namespace sdk {
 
 SavedCell::SavedCell(const DisplayCell& cell)
-    : text_colour_(cell.text_colour), back_colour_(cell.back_colour) {
+    : wrong_(cell.wrong), text_colour_(cell.text_colour), back_colour_(cell.back_colour) {
   text_ = cell.text.empty() ? std::nullopt : std::optional(cell.text.front());
 }
 
 DisplayCell SavedCell::cell() const {
   return {.text = text_ ? std::string(1, *text_) : "",
           .text_colour = text_colour_,
-          .back_colour = back_colour_};
+          .back_colour = back_colour_,
+          .wrong = wrong_};
 }
 
 bool GameState::has_texts_of(const GameState& other) const {

@@ -29,6 +29,7 @@ class SavedCell {
 
  private:
   std::optional<char> text_ = ' ';  ///< none is an empty text, which is not an empty cell
+  bool wrong_ = false;
   Colour text_colour_ = colour::black, back_colour_ = colour::white;
 };
 

@@ -79,7 +79,10 @@ void MainWindow::tell_hint() {
   if (listener_) listener_->explanation_changed();
 }
 
-void MainWindow::leave_step() { choose_step(std::nullopt); }
+void MainWindow::leave_step() {
+  explanation_.leave();
+  if (listener_) listener_->explanation_changed();
+}
 
 void MainWindow::choose_step(std::optional<std::size_t> step) {
   explanation_.choose(step);

@@ -83,6 +83,7 @@ constexpr NoticeText notice_texts[] = {
     {Notice::redo, {"Rétablir", "Redo"}},
     {Notice::given, {"donné", "given"}},
     {Notice::wrong, {"faux", "wrong"}},
+    {Notice::clashing, {"en conflit", "clashes"}},
     {Notice::placed, {"placé", "placed"}},
     {Notice::reduced, {"perd un candidat", "loses a candidate"}},
     {Notice::pattern, {"appui", "supports the hint"}},

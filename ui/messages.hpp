@@ -29,7 +29,8 @@ enum class Notice {
   undo,             ///< accessible name and tooltip of the button that takes a change back
   redo,             ///< the same, of the button that does it again
   given,            ///< accessible state of a cell: it belongs to the puzzle
-  wrong,            ///< accessible state of a cell: its value is shown in red
+  wrong,            ///< accessible state of a cell: its value is underlined in red
+  clashing,         ///< accessible state of a cell that is not: its digit stands twice all the same
   placed,           ///< accessible state of a cell of `MSR`: a value, not its only candidate
   reduced,          ///< accessible state of a cell of `MSR`: a hint removed candidates
   pattern,          ///< accessible state of a cell of `MSR`: why a hint is right

@@ -3,6 +3,7 @@
 
 #include "ui/printing.hpp"
 
+#include "screen/digit_frames.hpp"
 #include "ui/main_window.hpp"
 
 namespace sdk {
@@ -42,7 +43,7 @@ Page printed_page(PageSize paper, const Layout& layout, const DisplayGrid& puzzl
       paper.width > layout.window.width ? (paper.width - layout.window.width) / 2 : 1000;
   const float top = (paper.height - layout.window.height) / 2;
   Page page{TextDrawing{left, top - 600, "Arial", 14, title},
-            PictureDrawing{left, top, width, height, puzzle.cells()}};
+            PictureDrawing{left, top, width, height, as_seen(puzzle)}};
   for (const LineDrawing& line : page_lines({left - 10, top - 10, width, height}))
     page.emplace_back(line);
   page.push_back(TextDrawing{left, top + height + 100, "Arial", 8, credit});

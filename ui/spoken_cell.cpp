@@ -9,6 +9,7 @@
 
 #include "game/window.hpp"
 #include "logic/deduction.hpp"
+#include "screen/digit_frames.hpp"
 #include "ui/messages.hpp"
 
 namespace sdk {
@@ -49,9 +50,12 @@ std::optional<Notice> meaning_of_mark(const DisplayCell& cell) {
   }
 }
 
-std::vector<Notice> states_of(const DisplayCell& cell) {
+std::vector<Notice> states_of(const DisplayCell& cell, bool clashing) {
   std::vector<Notice> states;
-  if (cell.is_wrong()) states.push_back(Notice::wrong);
+  if (cell.is_wrong())
+    states.push_back(Notice::wrong);
+  else if (clashing)
+    states.push_back(Notice::clashing);
   if (const auto meaning = meaning_of_mark(cell)) states.push_back(*meaning);
   return states;
 }
@@ -61,13 +65,24 @@ std::string beginning(int row, int column, std::string_view language) {
   return notice(Notice::cell, language, std::to_string(row + 1), std::to_string(column + 1)) + ": ";
 }
 
+std::string content_and_states(const DisplayCell& cell, bool clashing, std::string_view language) {
+  std::string spoken = content_of(cell.text, language);
+  for (const Notice state : states_of(cell, clashing)) spoken += ", " + notice(state, language);
+  return spoken;
+}
+
 }  // namespace
 
 std::string spoken_cell(const DisplayGrid& grid, int row, int column, std::string_view language) {
-  const DisplayCell& cell = grid.cell(row, column);
-  std::string spoken = beginning(row, column, language) + content_of(cell.text, language);
-  for (const Notice state : states_of(cell)) spoken += ", " + notice(state, language);
-  return spoken;
+  return beginning(row, column, language) +
+         content_and_states(grid.cell(row, column), false, language);
+}
+
+std::string spoken_puzzle_cell(const DisplayGrid& puzzle, int row, int column,
+                               std::string_view language) {
+  const Cell cell{row + 1, column + 1};
+  return beginning(row, column, language) +
+         content_and_states(as_seen(puzzle, cell), clashes(puzzle, cell), language);
 }
 
 namespace {

@@ -17,6 +17,11 @@ namespace sdk {
 /// 0..8; UTF-8; French for exactly "Fr", English for anything else.
 std::string spoken_cell(const DisplayGrid& grid, int row, int column, std::string_view language);
 
+/// The same of a cell of `MSF`, where digits clash: what is underlined is told as wrong, and other
+/// digits that clash as clashing.
+std::string spoken_puzzle_cell(const DisplayGrid& puzzle, int row, int column,
+                               std::string_view language);
+
 /// The same of a cell of a step that is shown alone, with the digits that are struck out and, where
 /// not all of its candidates are, those in bold: "row 1, column 2: 3 5 8, loses 3, supports the
 /// hint, bold 5".

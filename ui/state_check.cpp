@@ -41,6 +41,7 @@ void check_puzzle_cell(Check& check, const DisplayGrid& grid, int row, int colum
   check.expect(cell.text_colour == colour::black || cell.text_colour == colour::green ||
                    cell.text_colour == colour::red,
                name + " has an unknown text colour");
+  check.expect(!cell.wrong || cell.text_colour == colour::red, name + " is wrong but not red");
   check.expect(cell.back_colour == colour::white || cell.back_colour == colour::from_file ||
                    std::ranges::count(colour::level, cell.back_colour) == 1,
                name + " has an unknown background");

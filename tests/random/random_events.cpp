@@ -12,6 +12,9 @@
 #include <sstream>
 #include <string>
 
+#include "board/clashes.hpp"
+#include "board/grid_text.hpp"
+#include "screen/digit_frames.hpp"
 #include "tests/random/event_source.hpp"
 #include "tests/transcripts/scratch.hpp"
 #include "tools/script/script.hpp"
@@ -29,6 +32,20 @@ struct Counts {
        turns = 0;
 };
 
+/// Which cell is framed for a clash that the rules do not find, or the other way round.
+std::string frame_fault(const DisplayGrid& grid) {
+  Square<std::int16_t> values;
+  const std::vector<DisplayCell> cells = grid.cells();
+  for (const int number : all_cells)
+    values[number] = numeric_prefix(cells[static_cast<std::size_t>(number - 1)].text);
+  for (const int number : all_cells) {
+    const bool framed = digit_frame(grid, cell_at(number)) == DigitFrame::clash;
+    if (framed != (values[number] != 0 && has_clash(values, cell_at(number))))
+      return "the frame of cell " + std::to_string(number) + " does not tell its clashes";
+  }
+  return "";
+}
+
 /// One program from its start to its end, in folders of its own.
 class Program {
  public:
@@ -44,7 +61,11 @@ class Program {
     script_.run(command);
   }
   bool running() const { return script_.running(); }
-  std::string fault() { return running() ? state_fault(script_.window()) : ""; }
+  std::string fault() {
+    if (!running()) return "";
+    const std::string state = state_fault(script_.window());
+    return state.empty() ? frame_fault(script_.window().MSF) : state;
+  }
   /// Takes every step back, or does every step again; the first fault on the way.
   std::string undo_all() { return turn_all(&MainWindow::can_undo, &MainWindow::undo); }
   std::string redo_all() { return turn_all(&MainWindow::can_redo, &MainWindow::redo); }

@@ -136,11 +136,13 @@ TEST(DisplayCell, IsAGivenByItsBackgroundAlone) {
   EXPECT_TRUE(cell.is_given());
 }
 
-TEST(DisplayCell, IsWrongWhenItIsFilledAndRed) {
+TEST(DisplayCell, IsWrongWhenItIsFilledAndWasFoundSo) {
   DisplayCell cell;
   cell.text = "5";
   EXPECT_FALSE(cell.is_wrong());
   cell.text_colour = colour::red;
+  EXPECT_FALSE(cell.is_wrong()) << "it may be red for a clash";
+  cell.wrong = true;
   EXPECT_TRUE(cell.is_wrong());
   for (const char* const blank : {" ", "", "  "}) {
     cell.text = blank;

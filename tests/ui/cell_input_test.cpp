@@ -182,6 +182,18 @@ TEST_F(CellInput, VerificationSaysNothingWhileThereIsAClash) {
   EXPECT_EQ(game.cell(5, 4).text_colour, colour::red) << "for the clash, though it is right";
 }
 
+TEST_F(CellInput, VerificationAloneFindsADigitWrong) {
+  draw_and_select(few_digits, 1, 9);
+  game.press('1');
+  EXPECT_FALSE(game.cell(1, 9).is_wrong()) << "it clashes, nothing was compared";
+  game.press('4');
+  w.check(Control::Check1, true);
+  game.press('4');
+  EXPECT_TRUE(game.cell(1, 9).is_wrong());
+  game.press(key::del);
+  EXPECT_FALSE(game.cell(1, 9).wrong);
+}
+
 TEST_F(CellInput, VerificationWithoutASolutionReddensEveryDigit) {
   w.check(Control::Check1, true);
   w.ChaineSolution = "";

@@ -146,6 +146,42 @@ TEST_F(ExplanationOfAHint, TellsEveryEnd) {
   EXPECT_EQ(last_event(empty_grid), EventKind::exhausted);
 }
 
+TEST_F(ExplanationOfAHint, PointsAtTheOfferUntilItIsAnswered) {
+  game.draw(three_left);
+  std::vector<Mark> at_question;
+  const auto look = [&] { at_question.push_back(explanation().outcome()->cells(1, 8).mark); };
+  desktop.at_box = [&](const Box&) {
+    look();
+    w.choose_step(0);
+    w.choose_step(std::nullopt);
+    look();
+  };
+  hint();
+  EXPECT_EQ(at_question, (std::vector<Mark>{Mark::support, Mark::support}));
+  EXPECT_FALSE(explanation().outcome());
+  hint();
+  EXPECT_EQ(at_question.size(), 4u) << "asked again, it is pointed at again";
+}
+
+TEST_F(ExplanationOfAHint, PointsAtADeadCellUntilTheGridChanges) {
+  game.draw(dead_grid);
+  hint();
+  ASSERT_TRUE(explanation().outcome());
+  EXPECT_EQ(explanation().outcome()->cells(1, 9).mark, Mark::removed);
+  game.select(5, 5);
+  game.press('5');
+  EXPECT_FALSE(explanation().outcome());
+}
+
+TEST_F(ExplanationOfAHint, PointsAtNothingAtItsOtherEnds) {
+  EXPECT_FALSE(explanation().outcome());
+  for (const char* grid : {complete_grid, empty_grid}) {
+    game.draw(grid);
+    hint();
+    EXPECT_FALSE(explanation().outcome());
+  }
+}
+
 TEST_F(ExplanationOfAHint, StandsBehindTheBoxThatTellsTheEnd) {
   std::size_t at_box = 0;
   desktop.at_box = [&](const Box&) { at_box = explanation().size(); };

@@ -72,6 +72,8 @@ TEST(Notices, AreFilledInInBothLanguages) {
   EXPECT_EQ(notice(Notice::given, "En"), "given");
   EXPECT_EQ(notice(Notice::wrong, "Fr"), "faux");
   EXPECT_EQ(notice(Notice::wrong, "En"), "wrong");
+  EXPECT_EQ(notice(Notice::clashing, "Fr"), "en conflit");
+  EXPECT_EQ(notice(Notice::clashing, "En"), "clashes");
   EXPECT_EQ(notice(Notice::placed, "Fr"), "placé");
   EXPECT_EQ(notice(Notice::placed, "En"), "placed");
   EXPECT_EQ(notice(Notice::reduced, "Fr"), "perd un candidat");

@@ -95,6 +95,21 @@ TEST_F(Printing, KeepsThePictureOfTheMomentInThePage) {
   EXPECT_EQ(picture.cells.at(1).text, "3");
 }
 
+TEST_F(Printing, UnderlinesWhatIsUnderlinedOnScreen) {
+  game.draw(
+      "5........\n.........\n.........\n.........\n.........\n.........\n.........\n"
+      ".........\n.........\n");
+  game.select(1, 9);
+  game.press('5');
+  w.click(Control::Command4);
+  const auto picture = [&] { return std::get<PictureDrawing>(desktop.prints.back().at(1)); };
+  EXPECT_TRUE(picture().cells.at(8).is_wrong());
+  EXPECT_FALSE(picture().cells.at(0).is_wrong());
+  w.MSF.set_text(0, 0, "4");
+  w.click(Control::Command4);
+  EXPECT_FALSE(picture().cells.at(8).is_wrong());
+}
+
 TEST_F(Printing, RepaintsAfterwardsAndChangesNothing) {
   const std::string before = dump(w);
   w.click(Control::Command4);

@@ -19,7 +19,7 @@ class SpokenCell : public testing::Test {
                      Mark mark = Mark::none) {
     grid.make_current(4, 4);
     grid.set_text(text);
-    grid.set_text_colour(text_colour);
+    grid.set_verdict(text_colour);
     grid.set_back_colour(back_colour);
     grid.set_mark(static_cast<int>(mark));
     return spoken_cell(grid, 4, 4, "En");
@@ -93,6 +93,25 @@ TEST_F(SpokenCell, TellsAPlacedValueFromAnOnlyCandidate) {
 TEST_F(SpokenCell, SpeaksFrench) {
   spoken("7", colour::red, yellow);
   EXPECT_EQ(spoken_cell(grid, 4, 4, "Fr"), "ligne 5, colonne 5: 7, faux, donné");
+}
+
+TEST_F(SpokenCell, TellsWhatClashesInThePuzzleAlone) {
+  spoken("7", colour::black, yellow);
+  grid.set_text(4, 0, "7");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, clashes, given");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 0, "Fr"), "ligne 5, colonne 1: 7, en conflit");
+  EXPECT_EQ(spoken_cell(grid, 4, 4, "En"), "row 5, column 5: 7, given");
+  grid.set_text(4, 0, "8");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, given");
+}
+
+TEST_F(SpokenCell, TellsRedAsWrongWhileItClashes) {
+  spoken("7", colour::green, colour::white);
+  grid.set_text_colour(colour::red);
+  grid.set_text(4, 0, "7");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7, wrong");
+  grid.set_text(4, 0, "8");
+  EXPECT_EQ(spoken_puzzle_cell(grid, 4, 4, "En"), "row 5, column 5: 7");
 }
 
 /// The cell in the middle of a step's drawing.

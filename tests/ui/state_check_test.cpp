@@ -36,6 +36,14 @@ void set_current(DisplayGrid& grid, int row, int column, Colour text, Colour bac
 }
 
 const Damage damages[] = {
+    {"WrongAndGreen",
+     [](MainWindow& w) {
+       set_current(w.MSF, 2, 3, colour::green, colour::white);
+       DisplayCell cell = w.MSF.current();
+       cell.wrong = true;
+       w.MSF.set_cell(1, 2, cell);
+     },
+     "MSF r2c3 is wrong but not red"},
     {"LongText", [](MainWindow& w) { w.MSF.set_text(1, 2, "12"); },
      "MSF r2c3 holds more than one character"},
     {"TextColour", [](MainWindow& w) { set_current(w.MSF, 4, 5, 0x123456, colour::white); },

@@ -196,6 +196,7 @@ TEST_F(Undo, BringsBackTheColoursOfShowBadValues) {
   w.undo();
   EXPECT_EQ(w.game_state(), red);
   EXPECT_EQ(game.cell(2, 8).text_colour, colour::red);
+  EXPECT_TRUE(game.cell(2, 8).is_wrong());
 }
 
 TEST_F(Undo, DoesNothingDuringASearch) {

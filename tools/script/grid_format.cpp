@@ -4,6 +4,7 @@
 #include "tools/script/grid_format.hpp"
 
 #include "game/window.hpp"
+#include "screen/digit_frames.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {
@@ -35,12 +36,35 @@ std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which) {
   return square_text(" ", [&](int r, int c) { return colour_text(grid.cell(r, c).*which); });
 }
 
-std::string marked_cells(const DisplayGrid& grid, int mark) {
+namespace {
+
+/// `holds` is asked of (row, column), 0-based.
+template <class Question>
+std::string cells_where(Question holds) {
   std::string cells;
   for (int r = 0; r < DisplayGrid::size; ++r)
     for (int c = 0; c < DisplayGrid::size; ++c)
-      if (grid.cell(r, c).mark == mark) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
-  return std::to_string(mark) + '=' + cells;
+      if (holds(r, c)) cells += (cells.empty() ? "" : ",") + cell_name(r, c);
+  return cells;
+}
+
+std::string cells_framed(const DisplayGrid& puzzle, DigitFrame frame) {
+  return cells_where([&](int r, int c) { return digit_frame(puzzle, {r + 1, c + 1}) == frame; });
+}
+
+}  // namespace
+
+std::string marked_cells(const DisplayGrid& grid, int mark) {
+  return std::to_string(mark) + '=' +
+         cells_where([&](int r, int c) { return grid.cell(r, c).mark == mark; });
+}
+
+std::string framed_cells(const DisplayGrid& puzzle) {
+  return "clash=" + cells_framed(puzzle, DigitFrame::clash) +
+         " equal=" + cells_framed(puzzle, DigitFrame::equal) +
+         " underlined=" + cells_where([&](int r, int c) {
+           return as_seen(puzzle, {r + 1, c + 1}).is_wrong();
+         });
 }
 
 }  // namespace sdk

@@ -37,4 +37,8 @@ std::string colours(const DisplayGrid& grid, Colour DisplayCell::*which);
 /// "3=r1c3,r4c5": the cells that carry a mark.
 std::string marked_cells(const DisplayGrid& grid, int mark);
 
+/// "clash=r1c3,r1c9 equal= underlined=r1c9": the cells of the puzzle whose digits are framed or
+/// underlined.
+std::string framed_cells(const DisplayGrid& puzzle);
+
 }  // namespace sdk

@@ -81,6 +81,8 @@ std::string marks(Script& script) {
   return text;
 }
 
+std::string frames(Script& script) { return framed_cells(script.window().MSF); }
+
 std::string current(Script& script) {
   const DisplayGrid& grid = script.window().MSF;
   return cell_name(grid.current_row(), grid.current_column());
@@ -172,6 +174,10 @@ constexpr Topic table[] = {
      grid_topic<&Window::MSF>},
     {"MSR", "[text|back|R C]", "the candidates in the same forms", grid_topic<&Window::MSR>},
     {"marks", "", "the cells of MSR by mark: 3=r1c3,r4c5 4=r1c1 5= 6=", plain<marks>},
+    {"frames", "",
+     "the cells of MSF that are framed, for a clash or for a digit equal to that of the current "
+     "cell, and those underlined: clash=r1c3,r1c9 equal= underlined=r1c9",
+     plain<frames>},
     {"explanation", "",
      "the steps of the last hint, one a line, numbered; > in front of the chosen one; none when "
      "there is no explanation",

@@ -7,6 +7,7 @@
 #include <QStyleOptionViewItem>
 
 #include "ui/qt/cell_painter.hpp"
+#include "ui/qt/digit_frame_painter.hpp"
 #include "ui/qt/step_painter.hpp"
 
 namespace sdk {
@@ -40,6 +41,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const bool marked = grid_.marks_current() && (focused || look_.marks_without_focus);
   const bool current = is_current(index);
   paint_content(*painter, option.rect, index, marked && !current && is_selected(index));
+  if (look_.is_puzzle) paint_digit_frame(*painter, option.rect, frame_of(index), marked && current);
   if (marked && current)
     paint_border(*painter, option.rect, focused ? focused_border : unfocused_border);
   painter->restore();
@@ -49,10 +51,19 @@ void CellDelegate::paint_content(QPainter& painter, const QRect& square, const Q
                                  bool selected) const {
   const PictureCell* shown = step_ ? &step_->cells(index.row() + 1, index.column() + 1) : nullptr;
   if (shown && look_.step == StepLook::cells) return paint_step_cell(painter, square, *shown);
-  DisplayCell cell = grid_.cell(index.row(), index.column());
+  DisplayCell cell = seen_cell(index);
   if (selected) cell.back_colour = selected_background(cell.back_colour);
   paint_cell(painter, square, cell, look_.font_size);
   if (shown) paint_step_frame(painter, square, shown->mark);
+}
+
+DisplayCell CellDelegate::seen_cell(const QModelIndex& index) const {
+  if (look_.is_puzzle) return as_seen(grid_, {index.row() + 1, index.column() + 1});
+  return grid_.cell(index.row(), index.column());
+}
+
+DigitFrame CellDelegate::frame_of(const QModelIndex& index) const {
+  return digit_frame(grid_, {index.row() + 1, index.column() + 1});
 }
 
 bool CellDelegate::is_current(const QModelIndex& index) const {

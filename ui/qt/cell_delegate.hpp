@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "explanations/step_picture.hpp"
+#include "screen/digit_frames.hpp"
 #include "screen/display_grid.hpp"
 
 namespace sdk {
@@ -24,6 +25,7 @@ struct GridLook {
   int font_size;             ///< of a cell that has none of its own, in points
   bool marks_without_focus;  ///< the current cell and the selection are marked at any time
   StepLook step;
+  bool is_puzzle;  ///< its digits may clash, and be equal to the current cell's
 };
 
 class CellDelegate : public QAbstractItemDelegate {
@@ -39,6 +41,8 @@ class CellDelegate : public QAbstractItemDelegate {
  private:
   void paint_content(QPainter& painter, const QRect& square, const QModelIndex& index,
                      bool selected) const;
+  DisplayCell seen_cell(const QModelIndex& index) const;
+  DigitFrame frame_of(const QModelIndex& index) const;
   bool is_current(const QModelIndex& index) const;
   bool is_selected(const QModelIndex& index) const;
 

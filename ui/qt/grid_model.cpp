@@ -10,7 +10,7 @@
 
 namespace sdk {
 
-GridModel::GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, StepLook look,
+GridModel::GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, GridLook look,
                      QObject* parent)
     : QAbstractTableModel(parent), grid_(grid), step_(step), look_(look) {}
 
@@ -39,8 +39,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 
 QString GridModel::spoken(int row, int column) const {
   const PictureCell* shown = step_ ? &step_->cells(row + 1, column + 1) : nullptr;
-  if (shown && (look_ == StepLook::cells || shown->mark != Mark::none))
+  if (shown && (look_.step == StepLook::cells || shown->mark != Mark::none))
     return QString::fromStdString(spoken_cell(*shown, row, column, globals.Langue));
+  if (look_.is_puzzle)
+    return QString::fromStdString(spoken_puzzle_cell(grid_, row, column, globals.Langue));
   return QString::fromStdString(spoken_cell(grid_, row, column, globals.Langue));
 }
 

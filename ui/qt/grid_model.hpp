@@ -16,13 +16,13 @@ namespace sdk {
 class GridModel : public QAbstractTableModel {
  public:
   /// `grid` and `step`, the step that is shown, if any, must outlive the model.
-  GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, StepLook look,
+  GridModel(const DisplayGrid& grid, const std::optional<StepPicture>& step, GridLook look,
             QObject* parent);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
-  /// The text to show, the two colours, and the accessible text of spoken_cell; for
-  /// a cell that a step shows or frames, that of the step's cell.
+  /// The text to show, the two colours, and the accessible text of spoken_cell or, of the puzzle,
+  /// of spoken_puzzle_cell; for a cell that a step shows or frames, that of the step's cell.
   QVariant data(const QModelIndex& index, int role) const override;
   /// The accessible names of rows and columns; their headers are not on screen.
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -35,7 +35,7 @@ class GridModel : public QAbstractTableModel {
 
   const DisplayGrid& grid_;
   const std::optional<StepPicture>& step_;
-  StepLook look_;
+  GridLook look_;
 };
 
 }  // namespace sdk

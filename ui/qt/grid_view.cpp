@@ -55,7 +55,7 @@ GridView::GridView(DisplayGrid& grid, GridLook look, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
       step_look_(look.step),
-      model_(grid, step_, look.step, nullptr),
+      model_(grid, step_, look, nullptr),
       update_(*this, [this] { follow_grid(); }),
       announcer_(*this),
       tell_focus_(*this, [this] { announcer_.announce_focus(); }) {

@@ -55,10 +55,11 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       guard_(guard),
       commands_(make_part<CommandBar>("commands", this)),
       rect_(make_frame(Control::rect, this)),
-      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames}, this)),
-      rect2_(make_frame(Control::rect2, this)),
-      msr_(make_grid(Control::MSR, window.MSR, {candidates_font_size, false, StepLook::cells},
+      msf_(make_grid(Control::MSF, window.MSF, {puzzle_font_size, true, StepLook::frames, true},
                      this)),
+      rect2_(make_frame(Control::rect2, this)),
+      msr_(make_grid(Control::MSR, window.MSR,
+                     {candidates_font_size, false, StepLook::cells, false}, this)),
       options_(make_part<OptionBar>("options", this)),
       explanation_(make_part<ExplanationPanel>("explanation", this)),
       lines_(new LineOverlay(window, this)),
@@ -204,7 +205,7 @@ void MainFrame::show_explanation() {
   const bool beside = window_.visible(Control::rect2);
   const std::optional<StepPicture> step = explanation.picture();
   msr_->show_step(beside ? step : std::nullopt);
-  msf_->show_step(beside ? std::nullopt : step);
+  msf_->show_step(beside ? std::nullopt : step ? step : explanation.outcome());
   if (explanation.size() == 0 && explanation_->isAncestorOf(focusWidget())) msf_->setFocus();
   explanation_->show_state(explanation, long_search_.is_noticed());
 }

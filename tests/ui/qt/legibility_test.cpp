@@ -10,6 +10,7 @@
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/contrast.hpp"
+#include "ui/qt/digit_frame_painter.hpp"
 
 namespace sdk::test {
 
@@ -123,6 +124,24 @@ QString table_row(const Pair& pair) {
          " |\n";
 }
 
+constexpr std::pair<DigitFrame, const char*> frames[] = {{DigitFrame::clash, "clash"},
+                                                         {DigitFrame::equal, "equal digit"}};
+
+QString frame_row(const NamedColour& back, DigitFrame frame, const char* name) {
+  const QColor plain = to_qcolor(back.colour), drawn = frame_colour(frame);
+  const QColor tinted = to_qcolor(selected_background(back.colour));
+  return "| " +
+         QStringList{back.name,
+                     hex(plain),
+                     name,
+                     hex(drawn),
+                     two_places(contrast(drawn, plain)),
+                     hex(tinted),
+                     two_places(contrast(drawn, tinted))}
+             .join(" | ") +
+         " |\n";
+}
+
 QString read(const char* file) {
   QFile page(file);
   return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
@@ -201,16 +220,34 @@ class LegibilityTest : public QObject {
       QFAIL(qPrintable("docs/contrast.md should have this table:\n" + table));
   }
 
+  void every_frame_stands_out_from_every_background() {
+    for (const auto& [frame, name] : frames)
+      for (const NamedColour& back : puzzle_backgrounds)
+        for (const Colour shown : {back.colour, selected_background(back.colour)})
+          QVERIFY2(contrast(frame_colour(frame), to_qcolor(shown)) >= 3,
+                   qPrintable(frame_row(back, frame, name)));
+  }
+
+  void the_page_on_contrast_shows_the_frames() {
+    QString table;
+    for (const NamedColour& back : puzzle_backgrounds)
+      for (const auto& [frame, name] : frames) table += frame_row(back, frame, name);
+    if (!read(CONTRAST_PAGE).contains("|\n" + table + "\n"))
+      QFAIL(qPrintable("docs/contrast.md should have this table of frames:\n" + table));
+  }
+
   void a_wrong_value_is_underlined_on_every_background() {
     for (const NamedColour& back : puzzle_backgrounds)
       for (const NamedColour& text : puzzle_texts) {
-        const DisplayCell cell{.text = "8", .text_colour = text.colour, .back_colour = back.colour};
-        QCOMPARE(is_underlined(painted(cell)), text.colour == colour::red);
+        const bool wrong = text.colour == colour::red;
+        const DisplayCell cell{
+            .text = "8", .text_colour = text.colour, .back_colour = back.colour, .wrong = wrong};
+        QCOMPARE(is_underlined(painted(cell)), wrong);
       }
   }
 
   void an_empty_cell_is_never_underlined() {
-    QVERIFY(!is_underlined(painted({.text = " ", .text_colour = colour::red})));
+    QVERIFY(!is_underlined(painted({.text = " ", .text_colour = colour::red, .wrong = true})));
   }
 
   void a_clash_is_underlined_on_screen_until_it_is_gone() {
@@ -239,7 +276,7 @@ class LegibilityTest : public QObject {
   void a_wrong_value_is_underlined_on_paper() {
     play_->window.MSF.make_current(8, 8);
     play_->window.MSF.set_text("7");
-    play_->window.MSF.set_text_colour(colour::red);
+    play_->window.MSF.set_verdict(colour::red);
     QImage page(9 * cell_side, 9 * cell_side, QImage::Format_RGB32);
     QPainter painter(&page);
     paint_puzzle(painter, play_->window.MSF.cells());
