@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 the SuDoKu team
 # SPDX-License-Identifier: MIT
 
-# Uses an installed game on a virtual display: looks whether the puzzle is on the board, asks for
-# the guide in both languages, and quits by the French box. Fails at the first thing that is wrong.
+# Uses an installed game on a virtual display: looks whether the puzzle is on the board, writes a
+# digit by the menu of the cell, asks for the guide in both languages, and quits by the French box.
+# Fails at the first thing that is wrong.
 #   packaging/play.sh PUZZLE.sdk OPENED PICTURES COMMAND...
 # COMMAND starts the game with PUZZLE.sdk; whatever the system opens documents with must append
 # their paths or addresses to the file OPENED. Pictures of the window are left in the folder PICTURES.
@@ -61,6 +62,13 @@ press() { # NAME OF THE BUTTON
   xdotool click 1
 }
 
+# Writes 1 in the first cell, which is to be empty, by the mouse alone.
+use_menu() {
+  xdotool mousemove --window "$window" 126 132 click 3
+  take_picture menu
+  xdotool mousemove_relative 35 20 click 1
+}
+
 copied() {
   xdotool key ctrl+a ctrl+c
   xclip -o -selection clipboard -t UTF8_STRING | tr ' ' . | tr -cd '1-9.' | grep -Fx "$1"
@@ -78,7 +86,13 @@ processes+=("$game")
 wait_until "no window with the name of the puzzle" window_named "${puzzle##*/}"
 window=$(<"$work/seen")
 take_picture window
-wait_until "the puzzle is not on the board" copied "$(tr -cd '1-9.' <"$puzzle")"
+digits=$(tr -cd '1-9.' <"$puzzle")
+wait_until "the puzzle is not on the board" copied "$digits"
+
+use_menu
+wait_until "the menu of the cell wrote no digit" copied "1${digits:1}"
+xdotool key ctrl+z
+wait_until "the digit was not undone" copied "$digits"
 
 press help
 wait_until "the French guide was not opened" guide_opened Sudoku_Fr.pdf

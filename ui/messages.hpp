@@ -28,6 +28,10 @@ enum class Notice {
   hint,             ///< accessible name and tooltip of `Command8`
   undo,             ///< accessible name and tooltip of the button that takes a change back
   redo,             ///< the same, of the button that does it again
+  cell_menu,        ///< accessible name of the menu of the current cell
+  erase,            ///< item of that menu: empties the selected cells
+  copy,             ///< the same: copies the rows of the selection
+  select_all,       ///< the same: selects the whole grid
   given,            ///< accessible state of a cell: it belongs to the puzzle
   wrong,            ///< accessible state of a cell: its value is underlined in red
   clashing,         ///< accessible state of a cell that is not: its digit stands twice all the same

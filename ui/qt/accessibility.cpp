@@ -3,10 +3,11 @@
 
 #include "ui/qt/accessibility.hpp"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <algorithm>
-#include <iterator>
+#include <span>
 
 #include "game/globals.hpp"
 #include "ui/qt/about_label.hpp"
@@ -22,9 +23,59 @@ struct WidgetRole {
 
 /// A plain frame is decoration, which screen readers pass over; Qt would have it a window.
 constexpr WidgetRole widget_roles[] = {
-    {"sdk::MainFrame", QAccessible::Window},     {"sdk::CommandBar", QAccessible::ToolBar},
-    {"sdk::OptionBar", QAccessible::Grouping},   {"sdk::ExplanationPanel", QAccessible::Grouping},
-    {"sdk::PictureLabel", QAccessible::Graphic}, {"QFrame", QAccessible::Client},
+    {"sdk::MainFrame", QAccessible::Window},
+    {"sdk::CommandBar", QAccessible::ToolBar},
+    {"sdk::OptionBar", QAccessible::Grouping},
+    {"sdk::ExplanationPanel", QAccessible::Grouping},
+    {"sdk::PictureLabel", QAccessible::Graphic},
+    {"sdk::CellMenu", QAccessible::PopupMenu},
+    {"QFrame", QAccessible::Client},
+};
+
+constexpr WidgetRole button_roles[] = {
+    {"sdk::IconButton", QAccessible::Button},
+    {"sdk::CellMenuItem", QAccessible::MenuItem},
+    {"QCheckBox", QAccessible::CheckBox},
+};
+
+/// The row of a class; null for none.
+const WidgetRole* role_of(std::span<const WidgetRole> roles, const QString& class_name) {
+  const auto row = std::ranges::find(roles, class_name, &WidgetRole::class_name);
+  return row == roles.end() ? nullptr : &*row;
+}
+
+/// A button or a check box. Screen readers take the tool tip of one without a description for it,
+/// and would say its name twice.
+class AccessibleButton : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  QString text(QAccessible::Text which) const override {
+    const QString text = QAccessibleWidget::text(which);
+    const bool repeats = which == QAccessible::Description && text == this->text(QAccessible::Name);
+    return repeats ? QString() : text;
+  }
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = button().isCheckable();
+    state.checked = button().isChecked();
+    state.pressed = button().isDown();
+    return state;
+  }
+
+  QStringList actionNames() const override {
+    if (!button().isEnabled()) return {};
+    return {button().isCheckable() ? toggleAction() : pressAction(), setFocusAction()};
+  }
+
+  void doAction(const QString& action) override {
+    if (action == setFocusAction()) return QAccessibleWidget::doAction(action);
+    if (actionNames().contains(action)) button().click();
+  }
+
+ private:
+  QAbstractButton& button() const { return *static_cast<QAbstractButton*>(object()); }
 };
 
 /// A link that a screen reader can follow although no key reaches it.
@@ -42,9 +93,11 @@ class AccessibleLink : public QAccessibleWidget {
 QAccessibleInterface* make_interface(const QString& class_name, QObject* object) {
   if (auto* link = qobject_cast<LinkLabel*>(object)) return new AccessibleLink(*link);
   if (class_name != object->metaObject()->className()) return nullptr;
-  const auto* known = std::ranges::find(widget_roles, class_name, &WidgetRole::class_name);
-  if (known == std::end(widget_roles)) return nullptr;
-  return new QAccessibleWidget(static_cast<QWidget*>(object), known->role);
+  auto* widget = static_cast<QWidget*>(object);
+  if (const WidgetRole* row = role_of(button_roles, class_name))
+    return new AccessibleButton(widget, row->role);
+  const WidgetRole* row = role_of(widget_roles, class_name);
+  return row ? new QAccessibleWidget(widget, row->role) : nullptr;
 }
 
 }  // namespace

@@ -109,7 +109,7 @@ QToolButton* CommandBar::make_command(Control control, const char* icon, const c
 }
 
 QToolButton* CommandBar::make_button(const char* name, const char* icon) {
-  QToolButton* button = make_icon_button(name, icon, icon_side, button_side, this);
+  auto* button = new IconButton(name, icon, icon_side, button_side, this);
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);

@@ -73,7 +73,7 @@ ExplanationPanel::ExplanationPanel(QWidget* parent)
 }
 
 QToolButton* ExplanationPanel::make_button(const char* name, const char* icon) {
-  QToolButton* button = make_icon_button(name, icon, icon_side, button_side, this);
+  auto* button = new IconButton(name, icon, icon_side, button_side, this);
   button->setFocusPolicy(Qt::TabFocus);
   return button;
 }

@@ -4,8 +4,6 @@
 #include "ui/qt/grid_view.hpp"
 
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -13,7 +11,6 @@
 #include <utility>
 
 #include "ui/qt/cell_painter.hpp"
-#include "ui/qt/key_codes.hpp"
 #include "ui/qt/step_painter.hpp"
 
 namespace sdk {
@@ -26,8 +23,6 @@ void set_up_header(QHeaderView& header) {
   header.setDefaultSectionSize(cell_side);
   header.setSectionResizeMode(QHeaderView::Fixed);
 }
-
-bool is_tab(int qt_key) { return qt_key == Qt::Key_Tab || qt_key == Qt::Key_Backtab; }
 
 /// A cell by row and column.
 struct Corner {
@@ -176,60 +171,6 @@ void GridView::go_to(const QModelIndex& index, bool extend) {
   grid_.select(index.row(), index.column(), other.row, other.column);
   update_.make_now();
 }
-
-std::optional<GridView::CursorAction> GridView::movement_of(int qt_key) {
-  switch (qt_key) {
-    case Qt::Key_Up:
-      return MoveUp;
-    case Qt::Key_Down:
-      return MoveDown;
-    case Qt::Key_Left:
-      return MoveLeft;
-    case Qt::Key_Right:
-      return MoveRight;
-    case Qt::Key_Home:
-      return MoveHome;
-    case Qt::Key_End:
-      return MoveEnd;
-    case Qt::Key_PageUp:
-      return MovePageUp;
-    case Qt::Key_PageDown:
-      return MovePageDown;
-    default:
-      return std::nullopt;
-  }
-}
-
-void GridView::keyPressEvent(QKeyEvent* event) {
-  update_.make_now();
-  if (is_tab(event->key())) return event->ignore();
-  const bool extend = event->modifiers().testFlag(Qt::ShiftModifier);
-  if (const auto action = movement_of(event->key()))
-    return go_to(moveCursor(*action, event->modifiers()), extend);
-  const KeyCode key = key_code(*event);
-  emit key_pressed(key.code, key.ctrl);
-}
-
-void GridView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  update_.make_now();
-  go_to(indexAt(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
-  emit button_pressed_or_released();
-}
-
-void GridView::mouseMoveEvent(QMouseEvent* event) {
-  if (!event->buttons().testFlag(Qt::LeftButton)) return;
-  const QRect cells = viewport()->rect();
-  go_to(indexAt({std::clamp(event->pos().x(), cells.left(), cells.right()),
-                 std::clamp(event->pos().y(), cells.top(), cells.bottom())}),
-        true);
-}
-
-void GridView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) emit button_pressed_or_released();
-}
-
-void GridView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);

@@ -16,8 +16,9 @@
 namespace sdk {
 
 /// The grid's current cell and selection are the view's, whichever of the two moves. Arrows, Page,
-/// Home and End move them, extended by Shift and the mouse; Tab leaves the grid; every other key is
-/// reported. While the core hides the grid, repainting is suspended and nothing else.
+/// Home and End move them, extended by Shift and the mouse; so does the right mouse button outside
+/// the selection. Tab leaves the grid; every other key is reported. While the core hides the grid,
+/// repainting is suspended and nothing else.
 class GridView : public QTableView, private DisplayGridListener {
   Q_OBJECT
 
@@ -37,6 +38,9 @@ class GridView : public QTableView, private DisplayGridListener {
   void key_pressed(int code, bool ctrl);
   /// The left mouse button went down or up.
   void button_pressed_or_released();
+  /// The right mouse button or the menu's key asks for the menu of the current cell, which is to
+  /// open beside `place`, in pixels of the desktop.
+  void menu_asked(const QRect& place, bool by_key);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -45,6 +49,7 @@ class GridView : public QTableView, private DisplayGridListener {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -61,6 +66,7 @@ class GridView : public QTableView, private DisplayGridListener {
 
   void set_up_table();
   void go_to(const QModelIndex& index, bool extend);
+  void ask_for_menu_at_cell();
   void follow_grid();
   void announce_cells();
   void select_as_grid();

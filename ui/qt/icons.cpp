@@ -8,7 +8,6 @@
 #include <QPainter>
 #include <QPalette>
 #include <QSvgRenderer>
-#include <QToolButton>
 
 // Has to stand outside every namespace.
 static void add_icons_to_the_program() { Q_INIT_RESOURCE(icons); }
@@ -66,15 +65,13 @@ class StencilIcon : public QIconEngine {
 
 QIcon button_icon(const char* name) { return QIcon(new StencilIcon(file_of(name))); }
 
-QToolButton* make_icon_button(const char* name, const char* icon, int icon_side, int side,
-                              QWidget* parent) {
-  auto* button = new QToolButton(parent);
-  button->setObjectName(name);
-  button->setIcon(button_icon(icon));
-  button->setIconSize({icon_side, icon_side});
-  button->setFixedSize(side, side);
-  button->setAutoRaise(true);
-  return button;
+IconButton::IconButton(const char* name, const char* icon, int icon_side, int side, QWidget* parent)
+    : QToolButton(parent) {
+  setObjectName(name);
+  setIcon(button_icon(icon));
+  setIconSize({icon_side, icon_side});
+  setFixedSize(side, side);
+  setAutoRaise(true);
 }
 
 QPixmap box_picture(const char* name, int side, double pixel_ratio) {

@@ -5,9 +5,7 @@
 #pragma once
 
 #include <QIcon>
-
-class QToolButton;
-class QWidget;
+#include <QToolButton>
 
 namespace sdk {
 
@@ -15,9 +13,14 @@ namespace sdk {
 /// size.
 QIcon button_icon(const char* name);
 
-/// A flat square button with that icon, sides in pixels; `name` is the object's.
-QToolButton* make_icon_button(const char* name, const char* icon, int icon_side, int side,
-                              QWidget* parent);
+/// A flat square button with that icon.
+class IconButton : public QToolButton {
+  Q_OBJECT
+
+ public:
+  /// Sides in pixels; `name` is the object's.
+  IconButton(const char* name, const char* icon, int icon_side, int side, QWidget* parent);
+};
 
 /// The picture drawn in icons/`name`.svg, in its own colours, for a screen of that pixel ratio.
 QPixmap box_picture(const char* name, int side, double pixel_ratio);

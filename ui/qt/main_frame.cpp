@@ -73,6 +73,7 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
   lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
+  make_menu();
   watch_application();
   msf_->setFocus();
   window_.set_listener(this);

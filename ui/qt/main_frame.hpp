@@ -61,6 +61,7 @@ class MainFrame : public QWidget, private WindowListener {
 
   void connect_bars();
   void connect_grids();
+  void make_menu();
   void watch_application();
 
   void act(const std::function<void()>& handler, DuringSearch during = DuringSearch::acts);

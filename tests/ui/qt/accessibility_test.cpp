@@ -138,6 +138,13 @@ class AccessibilityTest : public QObject {
     QCOMPARE(found, expected);
   }
 
+  void no_description_repeats_the_name() {
+    for (QAccessibleInterface* object : accessible_tree(play_->frame)) {
+      const QString description = object->text(QAccessible::Description);
+      QVERIFY2(description.isEmpty() || description != name_of(*object), qPrintable(description));
+    }
+  }
+
   void the_list_names_its_levels_and_tells_the_current_one() {
     QCOMPARE(names_of(accessible_tree(find("Niveau")), QAccessible::ListItem),
              (QStringList{"Débutant", "Facile", "Moyen", "Difficile", "Diabolique"}));
