@@ -37,6 +37,9 @@ class Explanation {
   /// The chosen step as a drawing, if there is one.
   std::optional<StepPicture> picture() const;
 
+  /// The cell that the hint offers a digit for, if it does.
+  std::optional<Cell> offered_cell() const;
+
   /// Empty when all of this holds together, and with what `grid` shows; else what does not.
   std::string fault(const DisplayGrid& grid) const;
 

@@ -18,6 +18,7 @@
 #include "ui/qt/option_bar.hpp"
 #include "ui/qt/program_guard.hpp"
 #include "ui/qt/question_gate.hpp"
+#include "ui/qt/small_screen.hpp"
 
 namespace sdk {
 
@@ -65,7 +66,12 @@ class MainFrame : public QWidget, private WindowListener {
   void show_grid_names();
   void show_explanation();
   void place_widgets();
-  void keep_on_screen();
+  void place_bands(const QRect& inside, const QRect& msf_frame);
+  QRect area_of(const QWidget& widget, const QRect& part) const;
+  void show_cell(const GridView& grid, int row, int column);
+  void show_current_cell(const GridView& grid);
+  void show_focus(QWidget* focus);
+  void show_offer(QMessageBox& box);
 
   MainWindow& window_;
   ProgramGuard& guard_;
@@ -77,6 +83,7 @@ class MainFrame : public QWidget, private WindowListener {
   OptionBar* options_;
   ExplanationPanel* explanation_;
   LineOverlay* lines_;
+  SmallScreen small_screen_;
   QuestionGate gate_;
   AboutDialog* about_ = nullptr;  ///< exists while the box is shown
   DeferredCall update_;
