@@ -50,6 +50,14 @@ QMargins frame_of(const QWidget& window) {
 
 }  // namespace
 
+void keep_on_screen(QWidget& window) {
+  const QRect available = window.screen()->availableGeometry(), frame = window.frameGeometry();
+  const QPoint most =
+      available.bottomRight() - QPoint(frame.width(), frame.height()) + QPoint(1, 1);
+  window.move(std::max(available.left(), std::min(frame.left(), most.x())),
+              std::max(available.top(), std::min(frame.top(), most.y())));
+}
+
 SmallScreen::SmallScreen(QWidget& window) : QObject(&window), window_(window) {
   window.installEventFilter(this);
 }
@@ -112,7 +120,7 @@ bool SmallScreen::adapt() {
   const QSize view = view_of(now);
   show_bars(view);
   window_.setFixedSize(view + QSize(down_ ? bar_width() : 0, across_ ? bar_width() : 0));
-  if (window_.isVisible()) keep_on_screen();
+  if (window_.isVisible()) keep_on_screen(window_);
   return true;
 }
 
@@ -151,14 +159,6 @@ void SmallScreen::show_bar(QScrollBar*& bar, Qt::Orientation orientation, int vi
   bar->setRange(0, page - view);
   bar->setPageStep(view);
   bar->setSingleStep(step);
-}
-
-void SmallScreen::keep_on_screen() {
-  const QRect available = window_.screen()->availableGeometry(), frame = window_.frameGeometry();
-  const QPoint most =
-      available.bottomRight() - QPoint(frame.width(), frame.height()) + QPoint(1, 1);
-  window_.move(std::max(available.left(), std::min(frame.left(), most.x())),
-               std::max(available.top(), std::min(frame.top(), most.y())));
 }
 
 }  // namespace sdk

@@ -14,6 +14,10 @@ class QWidget;
 
 namespace sdk {
 
+/// Moves a window no further than needed for it to be on its screen with its frame; where it is too
+/// large its upper left corner is.
+void keep_on_screen(QWidget& window);
+
 /// Gives a window the size of its page, or as much of it as fits on its screen together with its
 /// frame. The rest is reached by scroll bars, which do not exist while the page is seen whole. All
 /// areas are in the page's coordinates and in logical pixels.
@@ -60,7 +64,6 @@ class SmallScreen : public QObject {
   void show_bars(QSize view);
   void show_bar(QScrollBar*& bar, Qt::Orientation orientation, int view, int page);
   int bar_width() const;
-  void keep_on_screen();
 
   QWidget& window_;
   QSize page_;

@@ -131,32 +131,9 @@ void later(int milliseconds, const std::function<void()>& action) {
   QTimer::singleShot(milliseconds, action);
 }
 
-namespace {
-
-/// Two screens side by side, and frames around the windows.
-constexpr const char* screens = R"({
-  "synchronousWindowSystemEvents": false,
-  "windowFrameMargins": true,
-  "screens": [
-    {"name": "large", "x": 0, "y": 0, "width": 1024, "height": 768,
-     "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
-    {"name": "small", "x": 1024, "y": 0, "width": 800, "height": 600,
-     "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}
-  ]
-})";
-
-void describe_screens(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(screens) < 0)
-    qFatal("cannot write %s", qPrintable(path));
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + path.toLocal8Bit());
-}
-
-}  // namespace
-
 void leave_the_machine_alone() {
   static const QTemporaryDir folder;
-  describe_screens(folder.filePath("screens.json"));
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREENS);
   qputenv("CUPS_SERVER", "/nonexistent/cups");
   qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
   qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());

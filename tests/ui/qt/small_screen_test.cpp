@@ -5,6 +5,7 @@
 
 #include "ui/qt/small_screen.hpp"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -140,6 +141,53 @@ class SmallScreenTest : public QObject {
     QVERIFY(!sees(play_->find("MSF"), square(1, 1)));
     play_->press(Qt::Key_5);
     QVERIFY(sees(play_->find("MSF"), square(1, 1)));
+  }
+
+  void the_open_list_of_levels_is_on_the_screen() {
+    go_to_small_screen();
+    scroll_to_end();
+    auto& levels = play_->find<QComboBox>("Niveau");
+    levels.showPopup();
+    play_->settle();
+    QVERIFY(screen().contains(levels.view()->window()->frameGeometry()));
+    levels.hidePopup();
+  }
+
+  void dialogs_are_on_the_screen_data() {
+    QTest::addColumn<QString>("keys");
+    for (const char* keys : {"Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q"}) QTest::newRow(keys) << keys;
+  }
+  void dialogs_are_on_the_screen() {
+    QFETCH(QString, keys);
+    go_to_small_screen();
+    play_->frame.move(screen().center());
+    QRect place;
+    later(100, [&] {
+      place = open_dialog()->frameGeometry();
+      QTest::keyClick(open_dialog(), Qt::Key_Escape);
+    });
+    QTest::keySequence(&play_->frame, QKeySequence(keys));
+    QVERIFY2(screen().contains(place), qPrintable(QDebug::toString(place)));
+  }
+
+  void the_about_box_is_on_the_screen() {
+    go_to_small_screen();
+    click("Command5");
+    QVERIFY(open_dialog());
+    QVERIFY(screen().contains(open_dialog()->frameGeometry()));
+    QTest::keyClick(open_dialog(), Qt::Key_Escape);
+  }
+
+  void a_box_with_a_long_path_is_on_the_screen() {
+    go_to_small_screen();
+    QRect place;
+    later(100, [&] {
+      place = open_dialog()->frameGeometry();
+      QTest::keyClick(open_dialog(), Qt::Key_Return);
+    });
+    play_->desktop.message_box("/folder" + std::string(80, 'x') + "/puzzle.sdk", Icon::exclamation,
+                               Buttons::ok, "SuDoKu");
+    QVERIFY2(screen().contains(place), qPrintable(QDebug::toString(place)));
   }
 
   void the_question_shows_its_cell_and_its_reasons_data() { both_layouts(); }
