@@ -54,8 +54,9 @@ void keep_on_screen(QWidget& window) {
   const QRect available = window.screen()->availableGeometry(), frame = window.frameGeometry();
   const QPoint most =
       available.bottomRight() - QPoint(frame.width(), frame.height()) + QPoint(1, 1);
-  window.move(std::max(available.left(), std::min(frame.left(), most.x())),
-              std::max(available.top(), std::min(frame.top(), most.y())));
+  const QPoint place(std::max(available.left(), std::min(frame.left(), most.x())),
+                     std::max(available.top(), std::min(frame.top(), most.y())));
+  if (place != frame.topLeft()) window.move(place);
 }
 
 SmallScreen::SmallScreen(QWidget& window) : QObject(&window), window_(window) {
