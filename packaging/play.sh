@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: MIT
 
 # Uses an installed game on a virtual display: looks whether the puzzle is on the board, writes a
-# digit by the menu of the cell, asks for the guide in both languages, and quits by the French box.
-# Fails at the first thing that is wrong.
+# digit by the menu of the cell, asks for the guide in both languages, and quits by the French box;
+# then shows the candidates on a display smaller than the window. Fails at the first thing that is
+# wrong.
 #   packaging/play.sh PUZZLE.sdk OPENED PICTURES COMMAND...
 # COMMAND starts the game with PUZZLE.sdk; whatever the system opens documents with must append
 # their paths or addresses to the file OPENED. Pictures of the window are left in the folder PICTURES.
@@ -40,15 +41,16 @@ wait_until() { # WHAT CONDITION...: up to half a minute
 
 take_picture() { # NAME
   sleep 0.5 # let the painting end
-  xwdtopnm -quiet "$work/Xvfb_screen0" | pnmcrop -quiet -black | pnmtopng -quiet >"$pictures/$1.png"
+  xwdtopnm -quiet "$screen/Xvfb_screen0" | pnmcrop -quiet -black | pnmtopng -quiet >"$pictures/$1.png"
 }
 
-start_display() {
-  Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp -noreset \
-    3>"$work/number" 2>"$work/display" &
+start_display() { # SIZE
+  screen=$(mktemp -d "$work/screen.XXXXXX")
+  Xvfb -displayfd 3 -screen 0 "$1x24" -fbdir "$screen" -nolisten tcp -noreset \
+    3>"$screen/number" 2>"$screen/display" &
   processes+=($!)
-  wait_until "no virtual display" test -s "$work/number"
-  DISPLAY=:$(<"$work/number")
+  wait_until "no virtual display" test -s "$screen/number"
+  DISPLAY=:$(<"$screen/number")
   export DISPLAY
 }
 
@@ -74,17 +76,35 @@ copied() {
   xclip -o -selection clipboard -t UTF8_STRING | tr ' ' . | tr -cd '1-9.' | grep -Fx "$1"
 }
 
+start_game() { # COMMAND...
+  "$@" &
+  game=$!
+  processes+=("$game")
+  wait_until "no window with the name of the puzzle" window_named "${puzzle##*/}"
+  window=$(<"$work/seen")
+}
+
+quit_game() { # PICTURE OF ITS QUESTION
+  press quit
+  wait_until "no box asks before the end" window_named '^SuDoKu [0-9.]*$'
+  take_picture "$1"
+  xdotool key alt+o # Oui
+  wait_until "the game did not end at Oui" eval "! kill -0 $game"
+  wait "$game" || fail "the game ended with status $?"
+}
+
+turn_wheel() { # BUTTON: 4 up, 5 down
+  xdotool mousemove --window "$window" 300 300 click --repeat 10 "$1"
+}
+
+wide() { xdotool getwindowgeometry --shell "$window" | grep -Fx WIDTH=800; }
+
 guide_opened() { grep -Ex "(file://)?/.*/lib/sudoku/$1" "$opened"; }
 
 mkdir -p "$pictures"
 : >"$opened"
-start_display
-"$@" &
-game=$!
-processes+=("$game")
-
-wait_until "no window with the name of the puzzle" window_named "${puzzle##*/}"
-window=$(<"$work/seen")
+start_display 1600x1200
+start_game "$@"
 take_picture window
 digits=$(tr -cd '1-9.' <"$puzzle")
 wait_until "the puzzle is not on the board" copied "$digits"
@@ -102,10 +122,14 @@ press help
 wait_until "the English guide was not opened" guide_opened Sudoku_En.pdf
 
 xdotool key F2
-press quit
-wait_until "no box asks before the end" window_named '^SuDoKu [0-9.]*$'
-take_picture quit
-xdotool key alt+o # Oui
-wait_until "the game did not end at Oui" eval "! kill -0 $game"
-wait "$game" || fail "the game ended with status $?"
-echo "The game was used: its puzzle, its guides in both languages, its end."
+quit_game quit
+
+start_display 800x600
+start_game "$@"
+turn_wheel 5
+take_picture small
+xdotool mousemove --window "$window" 382 520 click 1 # shows the candidates, below the grid
+wait_until "the candidates are not shown on a small screen" wide
+turn_wheel 4
+quit_game small_wide
+echo "The game was used: its puzzle, its guides in both languages, its end; a small screen too."

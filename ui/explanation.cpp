@@ -62,6 +62,12 @@ std::optional<StepPicture> Explanation::outcome() const {
   return open || last.kind == EventKind::dead ? std::optional(picture_of(last)) : std::nullopt;
 }
 
+std::optional<Cell> Explanation::offered_cell() const {
+  if (size() == 0) return std::nullopt;
+  const auto& offer = solver.hint->events().back().deduction.placement;
+  return offer ? std::optional(offer->cell) : std::nullopt;
+}
+
 std::string Explanation::fault(const DisplayGrid& grid) const {
   if (puzzle_.empty()) return chosen_ ? "a step of no explanation is chosen" : "";
   if (is_outdated(grid)) return "the explanation is of another puzzle";

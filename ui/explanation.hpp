@@ -42,6 +42,8 @@ class Explanation {
   /// What the player is to look at while no step is chosen, as a drawing: the offer until it is
   /// answered, or the cell that is dead.
   std::optional<StepPicture> outcome() const;
+  /// The cell that the hint offers a digit for, if it does.
+  std::optional<Cell> offered_cell() const;
 
   /// Empty when all of this holds together, and with what `grid` shows; else what does not.
   std::string fault(const DisplayGrid& grid) const;

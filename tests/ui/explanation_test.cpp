@@ -100,6 +100,16 @@ TEST_F(ExplanationOfAHint, StandsWhenTheQuestionOpensAndStaysAfterNo) {
   EXPECT_EQ(state_fault(w), "");
 }
 
+TEST_F(ExplanationOfAHint, NamesTheCellThatIsOfferedWhileThereIsOne) {
+  EXPECT_EQ(explanation().offered_cell(), std::nullopt);
+  game.draw(last_left);
+  hint();
+  EXPECT_EQ(explanation().offered_cell(), (Cell{9, 9}));
+  game.draw(dead_grid);
+  hint();
+  EXPECT_EQ(explanation().offered_cell(), std::nullopt);
+}
+
 TEST_F(ExplanationOfAHint, AnyAnswerLeavesTheStep) {
   for (const Answer answer : {Answer::no, Answer::yes}) {
     game.draw(three_left);

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "tools/guide/guide.hpp"
+#include "tools/guide/studio.hpp"
 
 namespace {
 
@@ -18,9 +19,9 @@ constexpr std::string_view usage =
     "Sets the text, with pictures taken of the game's window in that language, as a PDF "
     "document.\n";
 
-/// No screen is needed, and nothing of the machine may show in the pictures.
+/// Nothing of the machine may show in the pictures.
 void prepare_environment() {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  sdk::prepare_screen();
   qputenv("QT_QPA_PLATFORMTHEME", "");
   QLoggingCategory::setFilterRules("default.warning=false");  // of what is missing off screen
   QCoreApplication::setAttribute(Qt::AA_Use96Dpi);

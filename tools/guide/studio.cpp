@@ -31,6 +31,8 @@ QMessageBox* open_box() {
 
 }  // namespace
 
+void prepare_screen() { qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" STUDIO_SCREEN); }
+
 BoxAnswerer::BoxAnswerer() {
   connect(&timer_, &QTimer::timeout, this, &BoxAnswerer::look_for_box);
   timer_.start(1);

@@ -17,6 +17,10 @@
 
 namespace sdk {
 
+/// To be called before QApplication is made: no screen of the machine is needed, and the window is
+/// seen whole.
+void prepare_screen();
+
 /// Pictures are sharp when printed: they have three pixels for each of the window's.
 inline constexpr int picture_scale = 3;
 

@@ -15,6 +15,7 @@
 #include "ui/qt/dialog_looks.hpp"
 #include "ui/qt/file_refusals.hpp"
 #include "ui/qt/rescued_grids.hpp"
+#include "ui/qt/small_screen.hpp"
 
 namespace sdk {
 
@@ -64,6 +65,7 @@ void CarefulDialog::propose(const QString& name) {
 /// What is typed over the proposed name keeps its ending.
 void CarefulDialog::showEvent(QShowEvent* event) {
   QFileDialog::showEvent(event);
+  keep_on_screen(*this);
   if (!proposed_.isEmpty()) name_edit()->setSelection(0, proposed_.lastIndexOf('.'));
 }
 

@@ -10,6 +10,7 @@
 #include "ui/qt/icons.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/qt_desktop.hpp"
+#include "ui/qt/scale_factors.hpp"
 #include "ui/qt/sudden_end.hpp"
 
 namespace {
@@ -57,6 +58,7 @@ int main(int argc, char** argv) {
     std::cout << *answer << std::flush;
     return std::cout ? 0 : 1;
   }
+  raise_scale_factors();  // before the thread that reads the fonts and the environment
   FontReader fonts;
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);  // takes its own options away

@@ -5,20 +5,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QScreen>
-#include <algorithm>
 
 #include "ui/qt/accessibility.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/object_names.hpp"
-#include "ui/qt/pixels.hpp"
 
 namespace sdk {
 
 namespace {
-
-constexpr int band_margin = 12;
-constexpr int explanation_margin = 8;
 
 template <class Part>
 Part* make_part(const char* name, QWidget* parent) {
@@ -63,6 +57,7 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       options_(make_part<OptionBar>("options", this)),
       explanation_(make_part<ExplanationPanel>("explanation", this)),
       lines_(new LineOverlay(window, this)),
+      small_screen_(*this),
       gate_(*this, *explanation_),
       stopper_(window, guard),
       update_(*this, [this] { show_state(); }),
@@ -110,14 +105,21 @@ void MainFrame::connect_grids() {
   msr_->setFocusPolicy(Qt::TabFocus);
   connect(msf_, &GridView::key_pressed, this,
           [this](int code, bool ctrl) { act([&] { window_.key_down(code, ctrl); }); });
-  for (const GridView* grid : {msf_, msr_})
+  connect(msf_, &GridView::key_pressed, this, [this] { show_current_cell(*msf_); });
+  for (const GridView* grid : {msf_, msr_}) {
     connect(grid, &GridView::button_pressed_or_released, this,
             [this] { guard_.run([&] { window_.redraw_lines(); }); });
+    connect(grid->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this, grid] { show_current_cell(*grid); });
+  }
 }
 
 void MainFrame::watch_application() {
   qApp->installEventFilter(this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, &MainFrame::expect_session_end);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* focus) { show_focus(focus); });
+  connect(&small_screen_, &SmallScreen::moved, this, &MainFrame::place_widgets);
 }
 
 void MainFrame::finish_start() {
@@ -128,6 +130,7 @@ int MainFrame::ask_about_hint(QMessageBox& box) {
   update_.make_now();
   update_explanation_.make_now();
   box.setAccessibleDescription(explanation_->last_sentence());
+  show_offer(box);
   return gate_.ask(box);
 }
 
@@ -214,38 +217,6 @@ void MainFrame::show_explanation() {
 void MainFrame::show_grid_names() {
   msf_->set_accessible_name(notice_text(Notice::puzzle));
   msr_->set_accessible_name(notice_text(Notice::candidates));
-}
-
-void MainFrame::place_widgets() {
-  const Layout& layout = window_.layout();
-  const QRect inside = pixels(layout.window), msf_frame = pixels(layout.rect);
-  // As wide as the narrow window, so that nothing moves when the candidates are shown.
-  const int band_width = pixels(sdk::layout(false).window).width() - 2 * band_margin;
-  commands_->setGeometry(band_margin, band_margin, band_width, msf_frame.top() - 2 * band_margin);
-  options_->setGeometry(band_margin, msf_frame.bottom() + 1 + band_margin, band_width,
-                        inside.bottom() - msf_frame.bottom() - 2 * band_margin);
-  const QRect below = inside.adjusted(0, msf_frame.bottom() + 1 + explanation_margin, -band_margin,
-                                      -explanation_margin);
-  explanation_->setGeometry(options_->free_room(below, !window_.visible(Control::rect2)));
-  rect_->setGeometry(msf_frame);
-  rect2_->setGeometry(pixels(layout.rect2));
-  msf_->setGeometry(pixels(layout.MSF));
-  msr_->setGeometry(pixels(layout.MSR));
-  lines_->setGeometry(inside);
-  setFixedSize(inside.size());
-  keep_on_screen();
-}
-
-void MainFrame::keep_on_screen() {
-  if (!isVisible()) return;
-  const QRect available = screen()->availableGeometry();
-  const int beyond = frameGeometry().right() - available.right();
-  if (beyond > 0) move(std::max(available.left(), x() - beyond), y());
-}
-
-void MainFrame::centre_on_screen() {
-  update_.make_now();
-  move(screen()->availableGeometry().center() - rect().center());
 }
 
 }  // namespace sdk

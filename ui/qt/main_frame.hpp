@@ -20,6 +20,7 @@
 #include "ui/qt/program_guard.hpp"
 #include "ui/qt/question_gate.hpp"
 #include "ui/qt/search_stopper.hpp"
+#include "ui/qt/small_screen.hpp"
 
 namespace sdk {
 
@@ -72,7 +73,12 @@ class MainFrame : public QWidget, private WindowListener {
   void show_grid_names();
   void show_explanation();
   void place_widgets();
-  void keep_on_screen();
+  void place_bands(const QRect& inside, const QRect& msf_frame);
+  QRect area_of(const QWidget& widget, const QRect& part) const;
+  void show_cell(const GridView& grid, int row, int column);
+  void show_current_cell(const GridView& grid);
+  void show_focus(QWidget* focus);
+  void show_offer(QMessageBox& box);
 
   MainWindow& window_;
   ProgramGuard& guard_;
@@ -84,6 +90,7 @@ class MainFrame : public QWidget, private WindowListener {
   OptionBar* options_;
   ExplanationPanel* explanation_;
   LineOverlay* lines_;
+  SmallScreen small_screen_;
   QuestionGate gate_;
   SearchStopper stopper_;
   AboutDialog* about_ = nullptr;  ///< exists while the box is shown

@@ -18,6 +18,7 @@
 #include "ui/qt/dialog_looks.hpp"
 #include "ui/qt/main_frame.hpp"
 #include "ui/qt/printing_service.hpp"
+#include "ui/qt/small_screen.hpp"
 
 namespace sdk {
 
@@ -43,6 +44,7 @@ class Box : public QMessageBox {
   void showEvent(QShowEvent* event) override {
     QMessageBox::showEvent(event);  // finds the size
     if (!parentWidget()) move(screen()->availableGeometry().center() - rect().center());
+    keep_on_screen(*this);
   }
 };
 

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace sdk {
@@ -96,8 +97,10 @@ bool QuestionGate::stops_in_window(QWidget& widget, const QEvent& event) {
   return true;
 }
 
+/// Scrolling changes nothing but what is in sight.
 bool QuestionGate::is_open(const QWidget* widget) const {
-  return widget == &open_part_ || open_part_.isAncestorOf(widget);
+  return widget == &open_part_ || open_part_.isAncestorOf(widget) ||
+         qobject_cast<const QScrollBar*>(widget);
 }
 
 std::vector<QWidget*> QuestionGate::tab_order() const {

@@ -30,7 +30,7 @@ bool close_open_list() {
 
 /// Sees every event of the program before its receiver does.
 bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
-  if (gate_.stops(watched, event)) return true;
+  if (small_screen_.scrolls_for(watched, event) || gate_.stops(watched, event)) return true;
   const bool is_key = event->type() == QEvent::KeyPress;
   if (!is_key && event->type() != QEvent::MouseButtonPress) return false;
   session_ends_ = false;  // the player goes on, so the end of the session was called off

@@ -306,7 +306,7 @@ class GuideTest : public QObject {
 }  // namespace sdk::test
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  sdk::prepare_screen();
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);
   sdk::test::GuideTest test;

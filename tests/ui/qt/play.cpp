@@ -133,7 +133,7 @@ void later(int milliseconds, const std::function<void()>& action) {
 
 void leave_the_machine_alone() {
   static const QTemporaryDir folder;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREENS);
   qputenv("CUPS_SERVER", "/nonexistent/cups");
   qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
   qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
