@@ -9,6 +9,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 scripts/setup.sh play package
 eval "$(DEB_BUILD_MAINT_OPTIONS=hardening=+all dpkg-buildflags --export=sh)"
 export CXXFLAGS="$CXXFLAGS $CPPFLAGS" # CMake knows no flags for the preprocessor alone
+# The date of all that is in the package, so that two builds of one version are the same.
+SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/changelog.in -S Timestamp)
+export SOURCE_DATE_EPOCH
 
 echo "Building the game for the package."
 cmake --preset package >/dev/null

@@ -38,7 +38,7 @@ check_package() { # every place that names the version has to name the same
   local package=("$work"/package/*.deb) version
   lintian --fail-on error "${package[0]}"
   version=$(dpkg-deb -f "${package[0]}" Version)
-  [[ $(dpkg-parsechangelog -l packaging/changelog -S Version) == "$version" ]] ||
+  [[ $(dpkg-parsechangelog -l packaging/changelog.in -S Version) == "$version" ]] ||
     fail "the changelog does not begin with version $version"
   grep -q "<release version=\"$version\"" "$share"/metainfo/*.metainfo.xml ||
     fail "the catalogue entry has no release $version"

@@ -36,6 +36,12 @@ QByteArray set(const GuideOrder& order) {
   }
 }
 
+/// Two builds of one state make the same guide where they are told the same date.
+void set_date_of_build(QByteArray& pdf) {
+  const QByteArray date = qgetenv("SOURCE_DATE_EPOCH");
+  if (!date.isEmpty()) set_creation_date(pdf, date.toLongLong());
+}
+
 void write(const QString& name, const QByteArray& bytes) {
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
@@ -44,6 +50,10 @@ void write(const QString& name, const QByteArray& bytes) {
 
 }  // namespace
 
-void make_guide(const GuideOrder& order) { write(order.document, set(order)); }
+void make_guide(const GuideOrder& order) {
+  QByteArray pdf = set(order);
+  set_date_of_build(pdf);
+  write(order.document, pdf);
+}
 
 }  // namespace sdk

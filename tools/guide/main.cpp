@@ -4,6 +4,7 @@
 // sudoku-guide: makes the player's guide of one language.
 
 #include <QApplication>
+#include <QHashFunctions>
 #include <QLoggingCategory>
 #include <exception>
 #include <iostream>
@@ -19,8 +20,11 @@ constexpr std::string_view usage =
     "Sets the text, with pictures taken of the game's window in that language, as a PDF "
     "document.\n";
 
-/// Nothing of the machine may show in the pictures.
+/// Nothing of the machine may show in the pictures; nor chance, or the place on earth, in the
+/// document.
 void prepare_environment() {
+  QHashSeed::setDeterministicGlobalSeed();
+  qputenv("TZ", "UTC");
   sdk::prepare_screen();
   qputenv("QT_QPA_PLATFORMTHEME", "");
   QLoggingCategory::setFilterRules("default.warning=false");  // of what is missing off screen

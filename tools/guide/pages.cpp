@@ -5,6 +5,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QDateTime>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTextBlock>
@@ -171,6 +172,15 @@ QByteArray pdf_of(QTextDocument& document, const QString& title) {
   check_lines(document);
   paint(writer, document);
   return bytes;
+}
+
+void set_creation_date(QByteArray& pdf, qint64 seconds) {
+  const QByteArray key = "/CreationDate (D:";
+  const QByteArray date =
+      QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString("yyyyMMddHHmmss").toLatin1();
+  const qsizetype at = pdf.indexOf(key);
+  if (at < 0) throw GuideError("the document has no date of creation");
+  pdf.replace(at + key.size(), date.size(), date);
 }
 
 }  // namespace sdk

@@ -17,4 +17,8 @@ void break_pages(const QTextDocument& document);
 /// line or a picture fits on no page. The document is of no other use afterwards.
 QByteArray pdf_of(QTextDocument& document, const QString& title);
 
+/// Puts a date, in seconds since the beginning of 1970, in place of that of the making, which Qt
+/// notes in local time; its zone stays. Throws GuideError when the document has no date.
+void set_creation_date(QByteArray& pdf, qint64 seconds);
+
 }  // namespace sdk

@@ -270,6 +270,16 @@ class GuideTest : public QObject {
     QVERIFY2(ending.errors.contains("/nonexistent/guide.pdf"), qPrintable(ending.errors));
   }
 
+  void two_guides_made_for_one_date_are_the_same() {
+    write("text.md", "# T\n\nText, and a picture: ![Window](window)\n");
+    qputenv("SOURCE_DATE_EPOCH", "1000000000");
+    for (const char* name : {"a.pdf", "b.pdf"})
+      QCOMPARE(run_tool({"En", folder_.filePath("text.md"), folder_.filePath(name)}).status, 0);
+    qunsetenv("SOURCE_DATE_EPOCH");
+    QVERIFY(content(folder_.filePath("a.pdf")).contains("/CreationDate (D:20010909014640Z)"));
+    QCOMPARE(content(folder_.filePath("a.pdf")), content(folder_.filePath("b.pdf")));
+  }
+
   void a_wrong_call_is_told_how_to_call() {
     for (const QStringList& arguments : {QStringList{}, {"De", "a", "b"}, {"En", "a"}}) {
       const Ending ending = run_tool(arguments);
