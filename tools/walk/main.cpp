@@ -43,7 +43,8 @@ Output, for each puzzle:
   E exhausted | <marks>         the end: nothing more can be found
   E dead r<r>c<c> | <marks>     the end: an empty cell has no candidate left
 <marks> are the cells marked in the candidate grid at that moment:
-  3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links
+  3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links, the
+  second colour of a colouring
 
   --explain en|fr   the same walk in sentences, in English or French
   --json            the same walk as JSON, one object a line: {"puzzle": ...}, then a step each, with
