@@ -75,6 +75,13 @@ TEST(WalkCommandLine, AnswersHelpAndSignatureAloneOnly) {
     expect_refused(words);
 }
 
+TEST(WalkCommandLine, TheHelpTellsEveryMark) {
+  const std::string help = walk_with("--help").output;
+  for (const char* part :
+       {"3= candidates removed", "4= support", "6= pincers, fins", "second colour"})
+    EXPECT_NE(help.find(part), std::string::npos) << part;
+}
+
 /// In a folder with a saved game of that name.
 ToolRun walk_file_named(const std::string& name) {
   const ScratchFolder folder;
