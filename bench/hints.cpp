@@ -20,6 +20,7 @@
 #include "screen/errors.hpp"
 #include "tests/support/puzzle_generator.hpp"
 #include "tests/support/solution_counter.hpp"
+#include "tools/command_line/command_line.hpp"
 #include "tools/walk/play.hpp"
 #include "ui/main_window.hpp"
 
@@ -225,19 +226,22 @@ void print_table(const std::string& name) {
   print_counts(name, counts);
 }
 
-int run(const std::vector<std::string>& arguments) {
-  const bool times = !arguments.empty() && arguments[0] == "times";
-  if (arguments.size() < 2 || (!times && arguments[0] != "table")) {
+int run(int argc, const char* const* argv) {
+  std::string what;
+  std::vector<std::string> lists;
+  CommandLine line;
+  line.add_option("WHAT", what)->required()->check(CLI::IsMember({"times", "table"}));
+  line.add_names(lists);
+  if (!line.read(argc, argv) || lists.empty()) {
     std::cerr << "usage: bench_hints times|table LIST...\n"
                  "LIST is library, minimal (1,000 generated puzzles), or a file of puzzles\n";
     return 2;
   }
-  for (std::size_t i = 1; i < arguments.size(); ++i)
-    times ? print_times(arguments[i]) : print_table(arguments[i]);
+  for (const std::string& list : lists) what == "times" ? print_times(list) : print_table(list);
   return 0;
 }
 
 }  // namespace
 }  // namespace sdk::bench
 
-int main(int argc, char** argv) { return sdk::bench::run({argv + 1, argv + argc}); }
+int main(int argc, char** argv) { return sdk::bench::run(argc, argv); }

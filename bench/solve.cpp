@@ -21,6 +21,7 @@
 #include "files/external_solver.hpp"
 #include "files/platform.hpp"
 #include "puzzles/stock/entry_text.hpp"
+#include "tools/command_line/command_line.hpp"
 
 namespace sdk::bench {
 namespace {
@@ -138,13 +139,22 @@ void run(MainWindow& window, const std::string& name, const Puzzles& puzzles) {
 }  // namespace sdk::bench
 
 int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  std::string name;
+  std::size_t count = 100;
+  sdk::CommandLine line;
+  line.add_option("LIST", name);
+  line.add_option("COUNT", count)->transform(sdk::whole_number(1));
+  if (!line.read(argc, argv)) {
+    std::cerr << "usage: bench_solve [LIST [COUNT]]\n";
+    return 2;
+  }
   try {
-    QApplication application(argc, argv);
     sdk::bench::Puzzles list;
-    if (argc > 1) list = sdk::bench::first_of(argv[1], argc > 2 ? std::stoul(argv[2]) : 100);
+    if (!name.empty()) list = sdk::bench::first_of(name, count);
     sdk::bench::Game game;
     sdk::bench::run(game.window(), "library", sdk::bench::library());
-    if (argc > 1) sdk::bench::run(game.window(), argv[1], list);
+    if (!name.empty()) sdk::bench::run(game.window(), name, list);
     return 0;
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';

@@ -22,6 +22,7 @@
 
 #include "bench/virtual_screen.hpp"
 #include "screen/colours.hpp"
+#include "tools/command_line/command_line.hpp"
 
 namespace sdk::bench {
 namespace {
@@ -156,8 +157,10 @@ int run(const std::filesystem::path& programs, int pairs) {
 }  // namespace sdk::bench
 
 int main(int argc, char** argv) {
-  if (argc > 2) return std::fprintf(stderr, "usage: %s [PAIRS]\n", argv[0]), 2;
-  const int pairs = argc == 2 ? std::max(1, std::atoi(argv[1])) : 15;
+  int pairs = 15;
+  sdk::CommandLine line;
+  line.add_option("PAIRS", pairs)->transform(sdk::whole_number(1));
+  if (!line.read(argc, argv)) return std::fprintf(stderr, "usage: bench_start [PAIRS]\n"), 2;
   try {
     return sdk::bench::run(std::filesystem::read_symlink("/proc/self/exe").parent_path(), pairs);
   } catch (const std::exception& error) {

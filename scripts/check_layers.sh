@@ -21,9 +21,10 @@ files/text: files/text board
 explanations: explanations logic board
 ui: ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
 ui/qt: ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
-tools: tools ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
-tools/guide: tools/guide ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
-tools/walk: tools/walk puzzles/stock files/text explanations logic board
+tools: tools tools/command_line ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
+tools/command_line: tools/command_line
+tools/guide: tools/guide tools/command_line ui/qt ui puzzles puzzles/stock pas_a_pas files files/text game screen explanations logic board
+tools/walk: tools/walk tools/command_line puzzles/stock files/text explanations logic board
 tools/zolv: tools/zolv
 '
 

@@ -11,7 +11,7 @@ set -euo pipefail
 packages_for() {
   case $1 in
     play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev \
-      qt6-translations-l10n nlohmann-json3-dev ;;
+      qt6-translations-l10n nlohmann-json3-dev libcli11-dev ;;
     picture) echo xvfb netpbm ;;
     test) echo libgtest-dev qt6-base-private-dev universal-ctags ;;
     bench) echo libbenchmark-dev xvfb ;;

@@ -67,7 +67,7 @@ struct NoticeText {
 constexpr NoticeText notice_texts[] = {
     {Notice::fatal, {"SuDoKu doit s'arrêter (%1)", "SuDoKu has to stop (%1)"}},
     {Notice::fatal_saved,
-     {"SuDoKu doit s'arrêter (%1). La grille est sauvée dans %2",
+     {"SuDoKu doit s'arrêter (%1). La grille a été sauvée dans %2",
       "SuDoKu has to stop (%1). The grid was saved in %2"}},
     {Notice::fatal_not_saved,
      {"SuDoKu doit s'arrêter (%1). La grille n'a pas pu être sauvée (%2)",
@@ -92,7 +92,7 @@ constexpr NoticeText notice_texts[] = {
     {Notice::reduced, {"perd un candidat", "loses a candidate"}},
     {Notice::pattern, {"appui", "supports the hint"}},
     {Notice::second_pattern, {"second rôle", "second role"}},
-    {Notice::dead, {"aucun chiffre ne reste", "no digit is left"}},
+    {Notice::dead, {"il ne reste aucun chiffre", "no digit is left"}},
     {Notice::loses, {"perd %1", "loses %1"}},
     {Notice::bold, {"en gras %1", "bold %1"}},
     {Notice::row, {"ligne %1", "row %1"}},

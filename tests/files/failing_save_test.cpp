@@ -33,7 +33,7 @@ class FailingSave : public testing::Test {
 
   void expect_rescued(const fs::path& target, const std::string& reason) {
     const std::string text = "SuDoKu doit s'arrêter (" + target.string() + ": " + reason +
-                             "). La grille est sauvée dans " + rescue();
+                             "). La grille a été sauvée dans " + rescue();
     EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
     EXPECT_EQ(desktop.errors, Lines{text});
     EXPECT_EQ(bytes_of(rescue()).substr(0, 40), " 1 2 3 4 5 6 7 8 9\r\n 4 5 6 7 8 9 1 2 3\r\n");

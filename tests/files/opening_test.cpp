@@ -178,7 +178,7 @@ TEST_F(Opening, AMissingFileEndsTheProgramWithTheGridOnScreenRescued) {
   const std::string missing = (folder / "missing.sdk").string();
   EXPECT_EQ(status_of_opening(missing), 1);
   const std::string text = "SuDoKu doit s'arrêter (" + missing +
-                           ": No such file or directory). La grille est sauvée dans " +
+                           ": No such file or directory). La grille a été sauvée dans " +
                            (desktop.data_folder() / "SuDoKu-1.sdk").string();
   EXPECT_EQ(desktop.errors, Lines{text});
   EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));

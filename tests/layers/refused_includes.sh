@@ -9,7 +9,7 @@ check=$1
 tree=$(mktemp -d)
 trap 'rm -rf "$tree"' EXIT
 mkdir -p "$tree"/{board,logic/techniques,screen,game,puzzles/stock,pas_a_pas,files/text,explanations,ui/qt} \
-  "$tree"/tools/{script,walk,guide,zolv}
+  "$tree"/tools/{command_line,script,walk,guide,zolv}
 touch "$tree"/tools/zolv/beside.hpp
 failures=0
 
@@ -46,6 +46,7 @@ accepted ui/qt/a.cpp '#include "ui/main_window.hpp"'
 accepted tools/script/a.cpp '#include "ui/main_window.hpp"'
 accepted tools/script/a.cpp '#include "files/text/puzzle_file_text.hpp"'
 accepted tools/guide/a.cpp '#include "files/text/puzzle_file_text.hpp"'
+accepted tools/walk/a.cpp '#include "tools/command_line/command_line.hpp"'
 accepted tools/guide/a.cpp '#include <QImage>'
 accepted tools/guide/a.cpp '#include "ui/qt/main_frame.hpp"'
 accepted tools/walk/a.cpp '#include "explanations/explanations.hpp"'
@@ -83,6 +84,7 @@ refused tools/script/a.cpp '#include "ui/qt/main_frame.hpp"'
 refused tools/guide/a.cpp '#include "tools/script/script.hpp"'
 refused tools/walk/a.cpp '#include "ui/main_window.hpp"'
 refused tools/walk/a.cpp '#include "game/globals.hpp"'
+refused tools/command_line/a.cpp '#include "board/cells.hpp"'
 refused tools/zolv/a.cpp '#include "board/square.hpp"'
 
 exit $((failures > 0))

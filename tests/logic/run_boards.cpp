@@ -8,8 +8,11 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "tests/logic/board_call.hpp"
+#include "tools/command_line/command_line.hpp"
 
 namespace sdk::test {
 
@@ -43,11 +46,19 @@ void register_cases(const std::filesystem::path& path) {
 
 }  // namespace sdk::test
 
-/// Arguments: files of drawn boards, and Google Test's own. Exits with 2 when a file is malformed.
+/// Arguments: files of drawn boards, and Google Test's own. Exits with 2 when one of them
+/// is malformed or is neither.
 int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
+  testing::InitGoogleTest(&argc, argv);  // takes its own arguments away
+  std::vector<std::string> files;
+  sdk::CommandLine line;
+  line.add_names(files);
+  if (!line.read(argc, argv)) {
+    std::cerr << "usage: run_boards FILE... [--gtest_...]\n";
+    return 2;
+  }
   try {
-    for (int i = 1; i < argc; ++i) sdk::test::register_cases(argv[i]);
+    for (const std::string& file : files) sdk::test::register_cases(file);
   } catch (const sdk::test::Malformed& fault) {
     std::cerr << fault.what() << '\n';
     return 2;

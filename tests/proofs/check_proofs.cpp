@@ -14,9 +14,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <string>
 
 #include "tests/proofs/walk_audit.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tools/command_line/command_line.hpp"
 
 namespace {
 
@@ -80,15 +82,18 @@ int verdict(sdk::proofs::WalkAudit& audit, bool ended_well) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::string tool;
+  std::uint32_t seed = 0;
+  sdk::CommandLine line;
+  CLI::Option* const walk = line.add_option("SUDOKU-WALK", tool);
+  CLI::Option* const seeded = line.add_option("SEED", seed)->transform(sdk::whole_number(0));
+  walk->needs(seeded);
+  if (!line.read(argc, argv)) {
+    std::cerr << "usage: check_proofs [SUDOKU-WALK SEED]\n";
+    return 2;
+  }
   sdk::proofs::WalkAudit audit(std::cout);
-  if (argc == 1) {
-    read_all(stdin, audit);
-    return verdict(audit, true);
-  }
-  if (argc == 3) {
-    const auto seed = static_cast<std::uint32_t>(std::strtoul(argv[2], nullptr, 10));
-    return verdict(audit, read_walks(argv[1], made_up_puzzles(seed), audit));
-  }
-  std::cerr << "usage: check_proofs [SUDOKU-WALK SEED]\n";
-  return 2;
+  if (walk->count() > 0) return verdict(audit, read_walks(tool, made_up_puzzles(seed), audit));
+  read_all(stdin, audit);
+  return verdict(audit, true);
 }

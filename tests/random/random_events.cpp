@@ -17,6 +17,7 @@
 #include "screen/digit_frames.hpp"
 #include "tests/random/event_source.hpp"
 #include "tests/transcripts/scratch.hpp"
+#include "tools/command_line/command_line.hpp"
 #include "tools/script/script.hpp"
 #include "ui/state_check.hpp"
 
@@ -184,10 +185,16 @@ int play(std::uint32_t seed, long events, bool echo) {
 /// random_events SEED EVENTS [--echo]: `--echo` prints every command before it runs, for a run that
 /// does not come back.
 int main(int argc, char** argv) {
-  if (argc < 3 || argc > 4) {
+  std::uint32_t seed = 0;
+  long events = 0;
+  bool echo = false;
+  sdk::CommandLine line;
+  line.add_option("SEED", seed)->required()->transform(sdk::whole_number(0));
+  line.add_option("EVENTS", events)->required()->transform(sdk::whole_number(0));
+  line.add_switch("--echo", echo);
+  if (!line.read(argc, argv)) {
     std::cerr << "usage: random_events SEED EVENTS [--echo]\n";
     return 2;
   }
-  const bool echo = argc == 4 && std::string(argv[3]) == "--echo";
-  return sdk::play(static_cast<std::uint32_t>(std::stoul(argv[1])), std::stol(argv[2]), echo);
+  return sdk::play(seed, events, echo);
 }

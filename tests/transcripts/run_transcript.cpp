@@ -12,6 +12,7 @@
 
 #include "tests/transcripts/diff.hpp"
 #include "tests/transcripts/transcript.hpp"
+#include "tools/command_line/command_line.hpp"
 
 namespace {
 
@@ -55,9 +56,12 @@ Status run(const std::string& path, bool rewriting) {
 /// Exits with 0 when every transcript printed what it expects, with 1 when one differs, with 2 when
 /// one is malformed. `--rewrite` writes what is printed now in place of what is expected.
 int main(int argc, char** argv) {
-  std::vector<std::string> paths(argv + 1, argv + argc);
-  const bool rewriting = std::erase(paths, "--rewrite") > 0;
-  if (paths.empty()) {
+  std::vector<std::string> paths;
+  bool rewriting = false;
+  sdk::CommandLine line;
+  line.add_switch("--rewrite", rewriting);
+  line.add_names(paths);
+  if (!line.read(argc, argv) || paths.empty()) {
     std::cerr << "usage: run_transcript [--rewrite] FILE...\n";
     return unusable;
   }

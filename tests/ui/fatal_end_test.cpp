@@ -41,7 +41,7 @@ class FatalEnd : public testing::Test {
 TEST_F(FatalEnd, WithoutAPrinterSavesTheGridAndSaysWhatFailedAndWhereTheGridIs) {
   desktop.has_printer = false;
   EXPECT_EQ(status_of_printing(), 1);
-  expect_said("SuDoKu doit s'arrêter (printer: no printer here). La grille est sauvée dans " +
+  expect_said("SuDoKu doit s'arrêter (printer: no printer here). La grille a été sauvée dans " +
               path("SuDoKu-1.sdk"));
   EXPECT_EQ(bytes_of(path("SuDoKu-1.sdk")).substr(0, 20), " 1 2 3 4 5 6 7 8 9\r\n");
   EXPECT_EQ(bytes_of(path("SuDoKu-1.sdk")).size(), 180u);

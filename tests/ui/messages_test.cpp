@@ -82,7 +82,7 @@ TEST(Notices, AreFilledInInBothLanguages) {
   EXPECT_EQ(notice(Notice::pattern, "En"), "supports the hint");
   EXPECT_EQ(notice(Notice::second_pattern, "Fr"), "second rôle");
   EXPECT_EQ(notice(Notice::second_pattern, "En"), "second role");
-  EXPECT_EQ(notice(Notice::dead, "Fr"), "aucun chiffre ne reste");
+  EXPECT_EQ(notice(Notice::dead, "Fr"), "il ne reste aucun chiffre");
   EXPECT_EQ(notice(Notice::dead, "En"), "no digit is left");
   EXPECT_EQ(notice(Notice::loses, "Fr", "3 8"), "perd 3 8");
   EXPECT_EQ(notice(Notice::loses, "En", "3 8"), "loses 3 8");

@@ -4,18 +4,16 @@
 // sudoku-walk: the hint command as a filter.
 
 #include <algorithm>
-#include <charconv>
 #include <iostream>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <thread>
-#include <utility>
 #include <vector>
 
 #include "board/grid_text.hpp"
 #include "files/text/file_grid.hpp"
+#include "tools/command_line/command_line.hpp"
 #include "tools/walk/json_walk.hpp"
 #include "tools/walk/line_filter.hpp"
 #include "tools/walk/walk.hpp"
@@ -45,7 +43,8 @@ Output, for each puzzle:
   E exhausted | <marks>         the end: nothing more can be found
   E dead r<r>c<c> | <marks>     the end: an empty cell has no candidate left
 <marks> are the cells marked in the candidate grid at that moment:
-  3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links
+  3= candidates removed, 4= support of a removal or offered, 6= pincers, fins, ends of links, the
+  second colour of a colouring
 
   --explain en|fr   the same walk in sentences, in English or French
   --json            the same walk as JSON, one object a line: {"puzzle": ...}, then a step each, with
@@ -64,19 +63,20 @@ it is when the input or the output fails. A wrong option gives exit status 2.
 /// More threads than any machine of today has processors.
 constexpr int most_jobs = 1024;
 
-using Words = std::vector<std::string>;
-
-/// What is asked of the walks.
+/// What is asked for.
 struct Order {
-  /// Tells the walk of a puzzle; none when it was not said how.
-  std::string (*tell)(std::string_view puzzle) = nullptr;
+  bool help = false, signature = false, json = false;
+  /// en or fr; empty when no sentences are wanted.
+  std::string language;
   int jobs = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
   /// Saved games to play; none when the puzzles come on standard input.
-  Words files;
+  std::vector<std::string> files;
 };
 
 std::string told(std::string_view puzzle, const Order& order) {
-  return order.tell ? order.tell(puzzle) : sdk::walk(puzzle);
+  if (order.json) return sdk::json_walk(puzzle);
+  if (order.language.empty()) return sdk::walk(puzzle);
+  return sdk::explained_walk(puzzle, order.language == "fr" ? "Fr" : "En");
 }
 
 /// A fault of the line or file of that name.
@@ -124,79 +124,41 @@ int play_all(const Order& order) {
   return had_faults || !failure.empty() ? 1 : 0;
 }
 
+/// Nothing when a word is out of place.
+std::optional<Order> read_order(int argc, const char* const* argv) {
+  Order order;
+  sdk::CommandLine line;
+  CLI::Option* const json = line.add_switch("--json", order.json);
+  line.add_option("--explain", order.language)->check(CLI::IsMember({"en", "fr"}))->excludes(json);
+  line.add_option("--jobs", order.jobs)->transform(sdk::whole_number(1, most_jobs))->take_last();
+  line.add_lone_switch("--signature", order.signature);
+  line.add_lone_switch("--help", order.help);
+  line.add_names(order.files);
+  return line.read(argc, argv) ? std::optional(order) : std::nullopt;
+}
+
 int refuse() {
   std::cerr << usage;
   return 2;
 }
 
-std::string tell_in_english(std::string_view puzzle) { return sdk::explained_walk(puzzle, "En"); }
-std::string tell_in_french(std::string_view puzzle) { return sdk::explained_walk(puzzle, "Fr"); }
-
-/// Whether it is still open how walks are told, and the word is a language.
-bool read_language(std::string_view word, Order& order) {
-  if (order.tell) return false;
-  if (word == "en") order.tell = tell_in_english;
-  if (word == "fr") order.tell = tell_in_french;
-  return order.tell != nullptr;
-}
-
-bool read_json(Order& order) { return !std::exchange(order.tell, sdk::json_walk); }
-
-bool read_jobs(std::string_view word, Order& order) {
-  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), order.jobs);
-  return error == std::errc() && end == word.data() + word.size() && order.jobs >= 1 &&
-         order.jobs <= most_jobs;
-}
-
-using Rest = std::span<const std::string>;
-
-const std::string& take_first(Rest& words) {
-  const std::string& first = words.front();
-  words = words.subspan(1);
-  return first;
-}
-
-/// Takes one option, and its value if it has one; false when it is none.
-bool take_option(Rest& words, Order& order) {
-  const std::string& option = take_first(words);
-  if (option == "--json") return read_json(order);
-  if (words.empty()) return false;
-  const std::string& value = take_first(words);
-  if (option == "--explain") return read_language(value, order);
-  return option == "--jobs" && read_jobs(value, order);
-}
-
-/// Takes one option or one file; false when it is neither.
-bool take(Rest& words, Order& order) {
-  if (words.front().starts_with('-')) return take_option(words, order);
-  order.files.push_back(take_first(words));
-  return true;
-}
-
-/// Nothing when a word is out of place.
-std::optional<Order> read_order(Rest words) {
-  Order order;
-  while (!words.empty())
-    if (!take(words, order)) return std::nullopt;
-  return order;
-}
-
-int run(const Words& arguments) {
-  if (arguments == Words{"--help"}) {
+/// The exit status.
+int run(const Order& order) {
+  if (order.help) {
     std::cout << usage << help;
     return 0;
   }
-  if (arguments == Words{"--signature"}) {
+  if (order.signature) {
     std::cout << sdk::library_signature() << '\n';
     return 0;
   }
-  const std::optional<Order> order = read_order(arguments);
-  return order ? play_all(*order) : refuse();
+  return play_all(order);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  return run({argv + 1, argv + argc});
+  const std::optional<Order> order = read_order(argc, argv);
+  return order ? run(*order) : refuse();
 }

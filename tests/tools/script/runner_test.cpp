@@ -153,9 +153,9 @@ TEST_F(TranscriptRunner, shows_standard_error_and_gives_every_run_fresh_folders)
   const std::string text =
       "> printer off\n> click Command4\n"
       "  box critical \"SuDoKu 1.0.0\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
-      "grille est sauvée dans <data>/SuDoKu-1.sdk\" ok -> ok\n  ended 1\n"
-      "  (standard error) SuDoKu doit s'arrêter (printer: no default printer). La grille est "
-      "sauvée dans <data>/SuDoKu-1.sdk\n";
+      "grille a été sauvée dans <data>/SuDoKu-1.sdk\" ok -> ok\n  ended 1\n"
+      "  (standard error) SuDoKu doit s'arrêter (printer: no default printer). La grille a "
+      "été sauvée dans <data>/SuDoKu-1.sdk\n";
   EXPECT_EQ(play(text).output, "");
   EXPECT_EQ(play(text).output, "");
   EXPECT_TRUE(left_nothing_behind());
