@@ -8,6 +8,7 @@
 #include "puzzles/stock/random.hpp"
 #include "tests/game/plain_search.hpp"
 #include "tests/support/game.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -328,7 +329,7 @@ TEST_F(Search, StoppedByEscapeSaysSoAndLeavesTheDisplay) {
   w.Resoudre();
   EXPECT_EQ(desktop.steps, 100);
   EXPECT_EQ(desktop.boxes,
-            (std::vector{Box{"Solver stopped!", Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+            (std::vector{Box{"Solver stopped!", Icon::critical, Buttons::ok, program_title}}));
   EXPECT_EQ(shown(w), sparse_puzzle);
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::black), all_cells());
   EXPECT_FALSE(globals.GrilleOk);

@@ -58,7 +58,7 @@ void prepare(const std::string& line, const Scratch& scratch) {
   const auto blank = line.find(' ');
   const std::string what = line.substr(0, blank);
   const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-  if (what == "file") return write_file(scratch.with_paths(rest));
+  if (what == "file") return write_file(scratch.without_placeholders(rest));
   if (what == "solver") return install_solver(rest, scratch.program());
   throw Malformed("neither file nor solver: " + line);
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/game.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -193,15 +194,14 @@ TEST_F(CellInput, VerificationWithoutASolutionReddensEveryDigit) {
 TEST_F(CellInput, TheLastDigitOfACorrectGridAnnouncesCompletionInFrenchAndEnglish) {
   draw_and_select(all_but_the_last(), 9, 9);
   game.press('5');
-  EXPECT_EQ(
-      desktop.boxes,
-      (std::vector{Box{"Grille terminée!!", Icon::exclamation, Buttons::ok, "SuDoKu 1.0.0"}}));
+  EXPECT_EQ(desktop.boxes,
+            (std::vector{Box{"Grille terminée!!", Icon::exclamation, Buttons::ok, program_title}}));
   w.preview_key(key::f1);
   draw_and_select(all_but_the_last(), 9, 9);
   game.press('5');
   EXPECT_EQ(
       desktop.boxes,
-      (std::vector{Box{"Puzzle completed!! ", Icon::exclamation, Buttons::ok, "SuDoKu 1.0.0"}}));
+      (std::vector{Box{"Puzzle completed!! ", Icon::exclamation, Buttons::ok, program_title}}));
   EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 

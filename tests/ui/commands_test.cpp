@@ -10,6 +10,7 @@
 #include "puzzles/library.hpp"
 #include "tests/support/game.hpp"
 #include "ui/state_check.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -291,8 +292,8 @@ TEST_F(Commands, AClickOnWhatIsNoButtonDoesNothing) {
 class Leaving : public Commands {
  protected:
   Box question() const {
-    return {"Voulez-vous vraiment quitter SuDoKu 1.0.0? ", Icon::question, Buttons::yes_no,
-            "SuDoKu 1.0.0"};
+    return {std::string("Voulez-vous vraiment quitter ") + program_title + "? ", Icon::question,
+            Buttons::yes_no, program_title};
   }
 };
 
@@ -320,7 +321,7 @@ TEST_F(Leaving, NoToTheQuitButtonRedrawsAndLeavesEverythingAsItWas) {
 TEST_F(Leaving, AsksInTheCurrentLanguage) {
   w.preview_key(key::f1);
   w.click(Control::Command3);
-  EXPECT_EQ(desktop.boxes.at(0).text, "Really want to quit SuDoKu 1.0.0? ");
+  EXPECT_EQ(desktop.boxes.at(0).text, std::string("Really want to quit ") + program_title + "? ");
 }
 
 TEST_F(Leaving, ClosingByTheWindowOrTheTaskManagerAsks) {

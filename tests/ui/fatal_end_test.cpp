@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "tests/support/game.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -28,7 +29,7 @@ class FatalEnd : public testing::Test {
 
   void expect_said(const std::string& text) {
     EXPECT_EQ(desktop.errors, Lines{text});
-    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, program_title}}));
   }
 
   std::string path(const std::string& name) { return (desktop.data_folder() / name).string(); }

@@ -152,7 +152,7 @@ TEST_F(TranscriptRunner, names_its_folders_by_placeholders_in_commands_and_in_ou
 TEST_F(TranscriptRunner, shows_standard_error_and_gives_every_run_fresh_folders) {
   const std::string text =
       "> printer off\n> click Command4\n"
-      "  box critical \"SuDoKu 1.0.0\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
+      "  box critical \"<title>\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
       "grille est sauvée dans <data>/SuDoKu-1.sdk\" ok -> ok\n  ended 1\n"
       "  (standard error) SuDoKu doit s'arrêter (printer: no default printer). La grille est "
       "sauvée dans <data>/SuDoKu-1.sdk\n";

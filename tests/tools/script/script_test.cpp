@@ -17,6 +17,7 @@
 #include "tools/script/keyboard.hpp"
 #include "tools/script/show.hpp"
 #include "tools/script/text_format.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -205,8 +206,9 @@ TEST(Script, an_event_happens_at_its_step_of_the_next_search) {
   run.play(empty_grid);
   EXPECT_EQ(run.play("at 1 show NumCase\nat 2 show NumCase\nat 4 show NumCase\n"
                      "at 4 key Escape\nclick Bouton_GO"),
-            "pointer hourglass\n1\n2\n3\nbox critical \"SuDoKu 1.0.0\" \"Résolution interrompu!\" "
-            "ok -> ok\npointer arrow\n");
+            std::string("pointer hourglass\n1\n2\n3\nbox critical \"") + program_title +
+                "\" \"Résolution interrompu!\" "
+                "ok -> ok\npointer arrow\n");
 }
 
 TEST(Script, events_of_one_step_happen_in_the_order_in_which_they_were_queued) {
