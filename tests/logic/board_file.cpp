@@ -225,6 +225,7 @@ std::vector<BoardFile> read_all_boards(const std::filesystem::path& folder) {
   std::vector<BoardFile> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder))
     if (entry.path().extension() == ".txt") files.push_back(read_boards(entry.path()));
+  if (files.empty()) throw Malformed(folder.string() + " holds no boards");
   return files;
 }
 

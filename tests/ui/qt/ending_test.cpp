@@ -104,9 +104,13 @@ class EndingTest : public QObject {
   }
 
   void nothing_runs_after_the_end() {
+    play_->draw(endless_grid);
+    play_->click_cell(1, 1);
     BoxAnswer yes(QMessageBox::Yes);
     play_->run_program([this] { play_->frame.close(); });
     const auto before = play_->window.MSF.text(0, 0);
+    play_->type("5");
+    QCOMPARE(play_->window.MSF.text(0, 0), before);
     int runs = 0;
     play_->guard.run([&] { ++runs; });
     QCOMPARE(runs, 0);
