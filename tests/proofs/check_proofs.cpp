@@ -17,20 +17,16 @@
 
 #include "tests/proofs/walk_audit.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tests/support/wanted_count.hpp"
 
 namespace {
 
 using Puzzles = std::vector<std::string>;
 
-int grid_count() {
-  const char* const grids = std::getenv("PROOF_GRIDS");
-  return grids ? std::atoi(grids) : 10;
-}
-
 Puzzles made_up_puzzles(std::uint32_t seed) {
   sdk::test::PuzzleGenerator generator(seed);
   Puzzles all;
-  for (int i = 0; i < grid_count(); ++i)
+  for (int grids = sdk::test::wanted_count("PROOF_GRIDS", 10); grids > 0; --grids)
     for (const std::string& puzzle : generator.next()) all.push_back(puzzle);
   return all;
 }
