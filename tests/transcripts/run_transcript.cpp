@@ -4,13 +4,14 @@
 // Plays transcripts and compares what they print with what they expect.
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
 #include <vector>
 
-#include "tests/transcripts/diff.hpp"
 #include "tests/transcripts/transcript.hpp"
 
 namespace {
@@ -30,12 +31,23 @@ void rewrite(const std::string& path, const sdk::Lines& lines) {
   if (!stream) throw sdk::Malformed("cannot be written");
 }
 
+/// Prints how `actual` differs from the file.
+void show_difference(const std::string& path, const sdk::Lines& actual) {
+  setenv("TRANSCRIPT", path.c_str(), 1);  // no shell has to understand a path
+  std::FILE* const diff = popen(
+      "diff -u --label \"$TRANSCRIPT expects\" --label 'the program prints' -- "
+      "\"$TRANSCRIPT\" -",
+      "w");
+  if (!diff) throw sdk::Malformed("differs, and diff cannot be run");
+  for (const std::string& line : actual) std::fputs((line + '\n').c_str(), diff);
+  pclose(diff);
+}
+
 Status compare(const std::string& path, bool rewriting) {
   const sdk::Lines expected = sdk::lines_of(content(path));
   const sdk::Lines actual = sdk::replay(expected);
   if (expected == actual) return same;
-  std::cout << "--- " << path << " expects\n+++ the program prints\n"
-            << sdk::diff(expected, actual);
+  show_difference(path, actual);
   if (!rewriting) return different;
   rewrite(path, actual);
   return same;

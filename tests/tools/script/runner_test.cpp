@@ -52,7 +52,7 @@ TEST_F(TranscriptRunner, refuses_another_output_and_shows_the_difference) {
   const ToolRun run = play("> seed 1\n> show current\n  r1c1\n> show Langue\n  \"Fr\"\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.output, "--- " + file().string() +
-                            " expects\n+++ the program prints\n@@ line 1 @@\n > seed 1\n"
+                            " expects\n+++ the program prints\n@@ -1,5 +1,5 @@\n > seed 1\n"
                             " > show current\n-  r1c1\n+  r9c9\n > show Langue\n   \"Fr\"\n");
   EXPECT_TRUE(left_nothing_behind());
 }
@@ -73,10 +73,11 @@ TEST_F(TranscriptRunner, shows_only_the_surroundings_of_a_difference) {
   std::string text;
   for (int i = 0; i < 20; ++i) text += "> show current\n  r9c9\n";
   const ToolRun run = play(text + "> show focus\n  MSR\n");
-  EXPECT_NE(run.output.find("@@ line 39 @@\n > show current\n   r9c9\n > show focus\n-  MSR\n"),
+  EXPECT_NE(run.output.find(
+                "@@ -39,4 +39,4 @@\n > show current\n   r9c9\n > show focus\n-  MSR\n+  MSF\n"),
             std::string::npos)
       << run.output;
-  EXPECT_EQ(run.output.find("@@ line 1 @@"), std::string::npos);
+  EXPECT_EQ(run.output.find("@@ -1,"), std::string::npos);
 }
 
 TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
