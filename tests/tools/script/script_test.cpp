@@ -150,6 +150,10 @@ TEST(Script, malformed_commands_are_faults) {
                            "answer",
                            "answer maybe",
                            "answer file",
+                           "answer yes 0",
+                           "answer yes 1000",
+                           "answer no x",
+                           "answer yes 1 2",
                            "at",
                            "at 1",
                            "at 0 key 1",
@@ -261,6 +265,15 @@ TEST(Script, a_look_happens_at_the_next_question_only_in_the_order_in_which_it_w
   EXPECT_TRUE(run.play("close window").starts_with("box question"));
 }
 
+TEST(Script, an_answer_can_be_queued_for_several_questions) {
+  ScriptRun run;
+  run.play("seed 1\nanswer no 2");
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(run.play("close window").ends_with("-> no\n"));
+  run.play("answer no 2\nanswer yes\nclose window\nclose window");
+  EXPECT_TRUE(run.script.running());
+  EXPECT_TRUE(run.play("close window").ends_with("-> yes\nended 0\n"));
+}
+
 TEST(Script, a_look_can_be_queued_during_a_search) {
   ScriptRun run;
   run.play("seed 1");
@@ -272,8 +285,7 @@ TEST(Script, a_look_can_be_queued_during_a_search) {
 TEST(Script, a_chosen_step_is_shown_as_a_drawn_board) {
   ScriptRun run;
   run.play("seed 4\nlevel 3\nclick Command1");
-  for (int i = 0; i < 6; ++i) run.play("answer yes");
-  run.play("click Command8\nstep 3");
+  run.play("answer yes 6\nclick Command8\nstep 3");
   std::istringstream words(run.play("show step"));
   const StepPicture picture = run.script.window().explanation().picture().value();
   int cell = 0;
