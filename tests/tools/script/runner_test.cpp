@@ -41,14 +41,14 @@ class TranscriptRunner : public testing::Test {
   fs::path folder_;
 };
 
-TEST_F(TranscriptRunner, accepts_a_transcript_that_says_what_is_printed) {
+TEST_F(TranscriptRunner, AcceptsATranscriptThatSaysWhatIsPrinted) {
   const ToolRun run = play("# A comment.\n\n> seed 1\n> show current\n  r9c9\n");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.output, "");
   EXPECT_TRUE(left_nothing_behind());
 }
 
-TEST_F(TranscriptRunner, refuses_another_output_and_shows_the_difference) {
+TEST_F(TranscriptRunner, RefusesAnotherOutputAndShowsTheDifference) {
   const ToolRun run = play("> seed 1\n> show current\n  r1c1\n> show Langue\n  \"Fr\"\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.output, "--- " + file().string() +
@@ -57,19 +57,19 @@ TEST_F(TranscriptRunner, refuses_another_output_and_shows_the_difference) {
   EXPECT_TRUE(left_nothing_behind());
 }
 
-TEST_F(TranscriptRunner, refuses_a_transcript_that_lacks_a_line_of_output) {
+TEST_F(TranscriptRunner, RefusesATranscriptThatLacksALineOfOutput) {
   const ToolRun run = play("> show current\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(run.output.find("+  r9c9\n"), std::string::npos) << run.output;
 }
 
-TEST_F(TranscriptRunner, refuses_a_transcript_that_expects_more_than_is_printed) {
+TEST_F(TranscriptRunner, RefusesATranscriptThatExpectsMoreThanIsPrinted) {
   const ToolRun run = play("> show current\n  r9c9\n  r9c9\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(run.output.find("-  r9c9\n"), std::string::npos) << run.output;
 }
 
-TEST_F(TranscriptRunner, shows_only_the_surroundings_of_a_difference) {
+TEST_F(TranscriptRunner, ShowsOnlyTheSurroundingsOfADifference) {
   std::string text;
   for (int i = 0; i < 20; ++i) text += "> show current\n  r9c9\n";
   const ToolRun run = play(text + "> show focus\n  MSR\n");
@@ -80,7 +80,7 @@ TEST_F(TranscriptRunner, shows_only_the_surroundings_of_a_difference) {
   EXPECT_EQ(run.output.find("@@ -1,"), std::string::npos);
 }
 
-TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
+TEST_F(TranscriptRunner, RefusesMalformedTranscripts) {
   struct {
     const char *transcript, *fault;
   } const cases[] = {
@@ -99,7 +99,7 @@ TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
   }
 }
 
-TEST_F(TranscriptRunner, puts_files_and_solvers_in_its_folders) {
+TEST_F(TranscriptRunner, PutsFilesAndSolversInItsFolders) {
   const std::string text =
       "= file <work>/a b.sdk \"1 \\r\\n\\t\\\"\\\\\"\n> show file <work>/a b.sdk\n"
       "  \"1 \\r\\n\\t\\\"\\\\\"\n= solver zero\n= solver empty_output\n"
@@ -110,7 +110,7 @@ TEST_F(TranscriptRunner, puts_files_and_solvers_in_its_folders) {
   EXPECT_EQ(play(transcript()).status, 0);
 }
 
-TEST_F(TranscriptRunner, refuses_malformed_preparations) {
+TEST_F(TranscriptRunner, RefusesMalformedPreparations) {
   for (const char* line :
        {"= ", "= file", "= file <work>/a", "= file <work>/a \"", "= file <work>/a \"x",
         "= file <work>/no/a \"x\"", "= solver", "= solver nobody", "= remove <work>/a"}) {
@@ -119,13 +119,13 @@ TEST_F(TranscriptRunner, refuses_malformed_preparations) {
   }
 }
 
-TEST_F(TranscriptRunner, refuses_a_file_that_is_not_there) {
+TEST_F(TranscriptRunner, RefusesAFileThatIsNotThere) {
   const ToolRun run = run_tool(RUN_TRANSCRIPT " /no/such/transcript.txt");
   EXPECT_EQ(run.status, 2);
   EXPECT_EQ(run.output, "/no/such/transcript.txt: cannot be read\n");
 }
 
-TEST_F(TranscriptRunner, rewrites_the_expected_output_and_nothing_else) {
+TEST_F(TranscriptRunner, RewritesTheExpectedOutputAndNothingElse) {
   const ToolRun run = play(
       "# Kept.\n\n> show current\n  r1c1\n  r1c2\n\n# Kept too.\n> show focus\n", "--rewrite ");
   EXPECT_EQ(run.status, 0);
@@ -134,12 +134,12 @@ TEST_F(TranscriptRunner, rewrites_the_expected_output_and_nothing_else) {
   EXPECT_EQ(play(transcript()).status, 0);
 }
 
-TEST_F(TranscriptRunner, leaves_a_malformed_transcript_as_it_is) {
+TEST_F(TranscriptRunner, LeavesAMalformedTranscriptAsItIs) {
   EXPECT_EQ(play("?? show current\n", "--rewrite ").status, 2);
   EXPECT_EQ(transcript(), "?? show current\n");
 }
 
-TEST_F(TranscriptRunner, names_its_folders_by_placeholders_in_commands_and_in_output) {
+TEST_F(TranscriptRunner, NamesItsFoldersByPlaceholdersInCommandsAndInOutput) {
   const ToolRun run = play(
       "> answer file <work>/a b.sdk\n> click sauve\n"
       "  dialog save \"Sudoku files (.sdk)|*.sdk|\" -> \"<work>/a b.sdk\"\n"
@@ -150,7 +150,7 @@ TEST_F(TranscriptRunner, names_its_folders_by_placeholders_in_commands_and_in_ou
   EXPECT_EQ(run.status, 0) << run.output;
 }
 
-TEST_F(TranscriptRunner, shows_standard_error_and_gives_every_run_fresh_folders) {
+TEST_F(TranscriptRunner, ShowsStandardErrorAndGivesEveryRunFreshFolders) {
   const std::string text =
       "> printer off\n> click Command4\n"
       "  box critical \"<title>\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
