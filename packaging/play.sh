@@ -11,16 +11,7 @@ set -euo pipefail
 puzzle=$1 opened=$2 pictures=$3
 shift 3
 
-work=$(mktemp -d)
-processes=()
-
-stop() {
-  local process
-  for process in "${processes[@]}"; do kill "$process" 2>/dev/null || true; done
-  wait
-  rm -rf "$work"
-}
-trap stop EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/../scripts/display.sh"
 
 fail() {
   take_picture failure 2>/dev/null || true
@@ -28,27 +19,9 @@ fail() {
   exit 1
 }
 
-wait_until() { # WHAT CONDITION...: up to half a minute
-  local what=$1 rounds=300
-  shift
-  until "$@" >"$work/seen" 2>/dev/null; do
-    ((rounds-- > 0)) || fail "$what"
-    sleep 0.1
-  done
-}
-
 take_picture() { # NAME
   sleep 0.5 # let the painting end
-  xwdtopnm -quiet "$work/Xvfb_screen0" | pnmcrop -quiet -black | pnmtopng -quiet >"$pictures/$1.png"
-}
-
-start_display() {
-  Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp -noreset \
-    3>"$work/number" 2>"$work/display" &
-  processes+=($!)
-  wait_until "no virtual display" test -s "$work/number"
-  DISPLAY=:$(<"$work/number")
-  export DISPLAY
+  save_picture "$pictures/$1.png"
 }
 
 window_named() { xdotool search --onlyvisible --name "$1"; } # prints its number
@@ -70,7 +43,7 @@ guide_opened() { grep -Ex "(file://)?/.*/lib/sudoku/$1" "$opened"; }
 
 mkdir -p "$pictures"
 : >"$opened"
-start_display
+start_display 1600x1200
 "$@" &
 game=$!
 processes+=("$game")
