@@ -3,8 +3,6 @@
 
 #include "tests/transcripts/preparation.hpp"
 
-#include <fstream>
-
 #include "tests/transcripts/transcript.hpp"
 
 namespace sdk {
@@ -41,9 +39,7 @@ void write_file(const std::string& arguments) {
   const std::string path = arguments.substr(0, quote);
   const std::string_view text =
       std::string_view(arguments).substr(quote + 2, arguments.size() - quote - 3);
-  std::ofstream stream(path, std::ios::binary);
-  stream << unescaped(text) << std::flush;
-  if (!stream) throw Malformed("cannot write " + path);
+  test::write_file(path, unescaped(text));
 }
 
 void install_solver(const std::string& name, const fs::path& program) {

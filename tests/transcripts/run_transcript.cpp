@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
+#include <filesystem>
 #include <iostream>
-#include <iterator>
 #include <string>
 #include <vector>
 
+#include "tests/support/files.hpp"
 #include "tests/transcripts/transcript.hpp"
 
 namespace {
@@ -19,16 +19,14 @@ namespace {
 enum Status { same = 0, different = 1, unusable = 2 };
 
 std::string content(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw sdk::Malformed("cannot be read");
-  return {std::istreambuf_iterator<char>(stream), {}};
+  if (!std::filesystem::is_regular_file(path)) throw sdk::Malformed("cannot be read");
+  return sdk::test::bytes_of(path);
 }
 
 void rewrite(const std::string& path, const sdk::Lines& lines) {
-  std::ofstream stream(path, std::ios::binary);
-  for (const std::string& line : lines) stream << line << '\n';
-  stream.flush();
-  if (!stream) throw sdk::Malformed("cannot be written");
+  std::string text;
+  for (const std::string& line : lines) text += line + '\n';
+  sdk::test::write_file(path, text);
 }
 
 /// Prints how `actual` differs from the file.
@@ -56,7 +54,7 @@ Status compare(const std::string& path, bool rewriting) {
 Status run(const std::string& path, bool rewriting) {
   try {
     return compare(path, rewriting);
-  } catch (const sdk::Malformed& fault) {
+  } catch (const std::runtime_error& fault) {
     std::cerr << path << ": " << fault.what() << '\n';
     return unusable;
   }

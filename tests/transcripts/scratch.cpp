@@ -4,7 +4,6 @@
 #include "tests/transcripts/scratch.hpp"
 
 #include <cstdlib>
-#include <stdexcept>
 #include <string_view>
 
 #include "ui/version.hpp"
@@ -15,12 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path fresh_folder() {
-  std::string pattern = (fs::canonical(fs::temp_directory_path()) / "transcript-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a folder like " + pattern);
-  return pattern;
-}
-
 void replace_all(std::string& text, std::string_view from, std::string_view to) {
   for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
     text.replace(at, from.size(), to);
@@ -29,15 +22,14 @@ void replace_all(std::string& text, std::string_view from, std::string_view to) 
 }  // namespace
 
 Scratch::Scratch()
-    : root_(fresh_folder()),
-      start_folder_(fs::current_path()),
+    : start_folder_(fs::current_path()),
       placeholders_{{"<program>", make_folder("program")},
                     {"<tmp>", make_folder("tmp")},
                     {"<data>", make_folder("share/sudoku")},
                     {"<work>", make_folder("work")},
                     {"<title>", program_title}} {
   setenv("XDG_DATA_HOME", (root_ / "share").c_str(), 1);
-  setenv("HOME", root_.c_str(), 1);
+  setenv("HOME", root_.path().c_str(), 1);
   setenv("tmp", (root_ / "tmp").c_str(), 1);
   fs::current_path(root_ / "work");
 }
@@ -45,7 +37,6 @@ Scratch::Scratch()
 Scratch::~Scratch() {
   std::error_code ignored;
   fs::current_path(start_folder_, ignored);
-  fs::remove_all(root_, ignored);
 }
 
 fs::path Scratch::make_folder(const char* name) {

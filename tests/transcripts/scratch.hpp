@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/files.hpp"
+
 namespace sdk {
 
 /// Makes the folders below the system's temporary one, lets the environment of this process point
@@ -34,7 +36,8 @@ class Scratch {
 
   std::filesystem::path make_folder(const char* name);
 
-  std::filesystem::path root_, start_folder_;
+  test::ScratchFolder root_;
+  std::filesystem::path start_folder_;
   std::vector<Placeholder> placeholders_;
 };
 

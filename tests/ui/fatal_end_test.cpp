@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "tests/support/game.hpp"
 #include "ui/version.hpp"
 
@@ -65,7 +63,7 @@ TEST_F(FatalEnd, ComesWhenThePrintingItselfFails) {
 }
 
 TEST_F(FatalEnd, NeverOverwritesAnEarlierGrid) {
-  std::ofstream(path("SuDoKu-1.sdk")) << "precious";
+  write_file(path("SuDoKu-1.sdk"), "precious");
   desktop.has_printer = false;
   EXPECT_EQ(status_of_printing(), 1);
   EXPECT_EQ(bytes_of(path("SuDoKu-1.sdk")), "precious");

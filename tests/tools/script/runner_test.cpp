@@ -5,10 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
+#include "tests/support/files.hpp"
 #include "tests/support/tool.hpp"
 
 namespace sdk::test {
@@ -18,27 +15,19 @@ namespace fs = std::filesystem;
 
 class TranscriptRunner : public testing::Test {
  protected:
-  TranscriptRunner() {
-    std::string pattern = (fs::temp_directory_path() / "runner-test-XXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-    fs::create_directory(folder_ / "scratch");
-  }
-  ~TranscriptRunner() override { fs::remove_all(folder_); }
+  TranscriptRunner() { fs::create_directory(folder_ / "scratch"); }
 
   ToolRun play(const std::string& transcript, const std::string& options = "") {
-    std::ofstream(file()) << transcript;
+    write_file(file(), transcript);
     return run_tool("TMPDIR=" + (folder_ / "scratch").string() + " " RUN_TRANSCRIPT " " + options +
                     file().string());
   }
   fs::path file() const { return folder_ / "case.txt"; }
-  std::string transcript() const {
-    std::ifstream stream(file());
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
+  std::string transcript() const { return bytes_of(file()); }
   bool left_nothing_behind() const { return fs::is_empty(folder_ / "scratch"); }
 
  private:
-  fs::path folder_;
+  ScratchFolder folder_;
 };
 
 TEST_F(TranscriptRunner, AcceptsATranscriptThatSaysWhatIsPrinted) {
