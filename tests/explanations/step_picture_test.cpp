@@ -47,10 +47,6 @@ StepPicture picture_of_step(const Technique& technique, const Position& before) 
 
 using sdk::name_of;
 
-std::string name_of(Cell cell) {
-  return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column);
-}
-
 std::string name_of(const PictureLink& link) {
   EXPECT_EQ(link.from.digit, link.to.digit);
   return std::to_string(link.from.digit) + ":" + name_of(link.from.cell) + "-" +

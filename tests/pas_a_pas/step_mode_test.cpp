@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "board/grid_text.hpp"
 #include "pas_a_pas/driver.hpp"
 #include "tests/pas_a_pas/hint_game.hpp"
 #include "tests/support/puzzle_generator.hpp"
