@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "board/square.hpp"
+#include "tests/game/plain_check.hpp"
 
 namespace sdk::bench {
 
@@ -36,7 +37,7 @@ class PlainSearch {
     if (value == 0) value = 1;
     if (givens_(row_, column_) != 0) {
       go_to(cell_ + (forward_ ? 1 : -1));
-    } else if (forward_ && is_valid()) {
+    } else if (forward_ && test::passes(grid_, row_, column_)) {
       go_to(cell_ + 1);
     } else if (value < 9) {
       forward_ = true;
@@ -46,21 +47,6 @@ class PlainSearch {
       value = 0;
       go_to(cell_ - 1);
     }
-  }
-
-  bool is_valid() const {
-    const std::int16_t value = grid_(row_, column_);
-    bool valid = true;
-    for (int k = 1; k <= 9; ++k) {
-      if (k != column_ && grid_(row_, k) == value) valid = false;
-      if (k != row_ && grid_(k, column_) == value) valid = false;
-    }
-    const int first_row = (row_ - 1) / 3 * 3 + 1;
-    const int first_column = (column_ - 1) / 3 * 3 + 1;
-    for (int r = first_row; r <= first_row + 2; ++r)
-      for (int c = first_column; c <= first_column + 2; ++c)
-        if (r != row_ && c != column_ && grid_(r, c) == value) valid = false;
-    return valid;
   }
 
   void go_to(int cell) {

@@ -10,6 +10,7 @@
 
 #include "bench/game.hpp"
 #include "bench/plain_search.hpp"
+#include "board/grid_text.hpp"
 #include "puzzles/library.hpp"
 #include "puzzles/stock/entry_text.hpp"
 
@@ -19,13 +20,7 @@ namespace {
 Game* game = nullptr;
 
 Square<std::int16_t> puzzle_of(const LibraryEntry& entry) {
-  Square<std::int16_t> puzzle;
-  const std::string text = puzzle_text(entry);
-  for (int k = 0; k < 81; ++k) {
-    const char c = text[static_cast<std::size_t>(k)];
-    puzzle(k / 9 + 1, k % 9 + 1) = c == '.' ? 0 : static_cast<std::int16_t>(c - '0');
-  }
-  return puzzle;
+  return sdk::puzzle_of(puzzle_text(entry));
 }
 
 void show(const LibraryEntry& entry, Window& window) {

@@ -44,11 +44,8 @@ Square<std::int16_t> puzzle_of(std::string_view line) {
   return grid;
 }
 
-std::string digits_of(const Square<std::int16_t>& grid) {
-  std::string digits;
-  for (int r = 1; r <= 9; ++r)
-    for (int c = 1; c <= 9; ++c) digits += std::to_string(grid(r, c));
-  return digits;
+std::string name_of(Cell cell) {
+  return {'r', static_cast<char>('0' + cell.row), 'c', static_cast<char>('0' + cell.column)};
 }
 
 std::string name_of(Unit unit) {

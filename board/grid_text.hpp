@@ -27,7 +27,15 @@ std::string puzzle_fault(std::string_view line);
 Square<std::int16_t> puzzle_of(std::string_view line);
 
 /// The values of a grid one after the other; 81 characters when all of them are 0..9.
-std::string digits_of(const Square<std::int16_t>& grid);
+template <class Number>
+std::string digits_of(const Square<Number>& grid) {
+  std::string digits;
+  for (int cell = 1; cell <= 81; ++cell) digits += std::to_string(grid[cell]);
+  return digits;
+}
+
+/// "r1c1".
+std::string name_of(Cell cell);
 
 /// "row 2", "column 2" or "box 2".
 std::string name_of(Unit unit);

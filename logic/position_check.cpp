@@ -46,7 +46,7 @@ std::string position_fault(const Position& position) {
   for (int number = 1; number <= 81; ++number) {
     const Cell cell = cell_at(number);
     if (const std::string fault = cell_fault(cube, cell); !fault.empty())
-      return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column) + " " + fault;
+      return name_of(cell) + " " + fault;
   }
   for (const Unit unit : all_units)
     if (!places_agree(cube, unit)) return "the places in " + name_of(unit) + " differ";

@@ -18,37 +18,11 @@ beside_row=(49 19 20 21) # ² and à ) = on a French keyboard
 declare -A modifier_key=([Shift]=50 [Ctrl]=37 [AltGr]=108)
 right=114 down=116 home=110 num_lock=77
 
-work=$(mktemp -d)
-processes=()
-
-stop() {
-  local process
-  for process in "${processes[@]}"; do kill "$process" 2>/dev/null || true; done
-  wait
-  rm -rf "$work"
-}
-trap stop EXIT
+source scripts/display.sh
 
 fail() {
   echo "packaging/keyboards.sh: $1" >&2
   exit 1
-}
-
-wait_until() { # WHAT CONDITION...: up to half a minute
-  local what=$1 rounds=300
-  shift
-  until "$@" >"$work/seen" 2>/dev/null; do
-    ((rounds-- > 0)) || fail "$what"
-    sleep 0.1
-  done
-}
-
-start_display() {
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$work/number" 2>"$work/display" &
-  processes+=($!)
-  wait_until "no virtual display" test -s "$work/number"
-  DISPLAY=:$(<"$work/number")
-  export DISPLAY
 }
 
 start_game() { # on a grid whose cells can all be typed in
@@ -134,7 +108,7 @@ check() { # ROW EXPECTED WHAT
 
 all=123456789 none=.........
 wrong=()
-start_display
+start_display 1024x768
 start_game
 xdotool key $num_lock
 printf '%-10s %-9s %-9s %-9s %-9s %-9s %-9s %-9s %-9s\n' layout row 'Shift row' 'Ctrl row' \

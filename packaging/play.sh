@@ -13,16 +13,7 @@ set -euo pipefail
 puzzle=$1 opened=$2 pictures=$3
 shift 3
 
-work=$(mktemp -d)
-processes=()
-
-stop() {
-  local process
-  for process in "${processes[@]}"; do kill "$process" 2>/dev/null || true; done
-  wait
-  rm -rf "$work"
-}
-trap stop EXIT
+source "$(dirname "${BASH_SOURCE[0]}")/../scripts/display.sh"
 
 fail() {
   take_picture failure 2>/dev/null || true
@@ -30,28 +21,9 @@ fail() {
   exit 1
 }
 
-wait_until() { # WHAT CONDITION...: up to half a minute
-  local what=$1 rounds=300
-  shift
-  until "$@" >"$work/seen" 2>/dev/null; do
-    ((rounds-- > 0)) || fail "$what"
-    sleep 0.1
-  done
-}
-
 take_picture() { # NAME
   sleep 0.5 # let the painting end
-  xwdtopnm -quiet "$screen/Xvfb_screen0" | pnmcrop -quiet -black | pnmtopng -quiet >"$pictures/$1.png"
-}
-
-start_display() { # SIZE
-  screen=$(mktemp -d "$work/screen.XXXXXX")
-  Xvfb -displayfd 3 -screen 0 "$1x24" -fbdir "$screen" -nolisten tcp -noreset \
-    3>"$screen/number" 2>"$screen/display" &
-  processes+=($!)
-  wait_until "no virtual display" test -s "$screen/number"
-  DISPLAY=:$(<"$screen/number")
-  export DISPLAY
+  save_picture "$pictures/$1.png"
 }
 
 window_named() { xdotool search --onlyvisible --name "$1"; } # prints its number

@@ -11,40 +11,22 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 rounds=${1:-50} program=${3:-build/bin/sudoku}
 RANDOM=${2:-1}
 
-work=$(mktemp -d)
-game='' server=''
-stop() {
-  kill $game $server 2>/dev/null || true
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap stop EXIT
+source scripts/display.sh
 
 fail() {
   echo "scripts/end_suddenly.sh: round $round, $ending after $moment: $1" >&2
-  cat "$work/errors" >&2
+  cat "$work/errors" >&2 || true
   exit 1
 }
 
-wait_until() { # WHAT CONDITION...: up to 20 seconds
-  local what=$1 times=200
-  shift
-  until "$@" >"$work/seen" 2>/dev/null; do
-    ((times-- > 0)) || fail "$what"
-    sleep 0.1
-  done
-}
-
 start_game() {
-  rm -rf "$work/tmp" "$work/data" "$work/saved.sdk" "$work/number"
+  rm -rf "$work/tmp" "$work/data" "$work/saved.sdk"
   mkdir -p "$work/tmp" "$work/data" "$work/home"
-  Xvfb -displayfd 3 -screen 0 1100x800x24 -nolisten tcp -noreset 3>"$work/number" 2>/dev/null &
-  server=$!
-  wait_until "no virtual display" test -s "$work/number"
-  export DISPLAY=:$(<"$work/number")
+  start_display 1100x800
   env -u tmp QT_QPA_PLATFORM=xcb TMPDIR="$work/tmp" XDG_DATA_HOME="$work/data" HOME="$work/home" \
     "$program" packaging/puzzle.sdk 2>"$work/errors" &
   game=$!
+  processes+=("$game")
   wait_until "no window" xdotool search --onlyvisible --name .
   xdotool windowfocus --sync "$(xdotool search --onlyvisible --name . | head -n 1)"
 }
@@ -71,7 +53,7 @@ act() {
 
 end_game() {
   case $ending in
-    display) kill "$server" ;;
+    display) kill "$display" ;;
     *) kill -"$ending" "$game" ;;
   esac
 }
@@ -104,9 +86,9 @@ for ((round = 1; round <= rounds; ++round)); do
   end_game
   status=0
   wait "$game" || status=$?
-  game=''
-  kill "$server" 2>/dev/null || true
-  wait "$server" 2>/dev/null || true
+  kill "$display" 2>/dev/null || true
+  wait "$display" 2>/dev/null || true
+  processes=()
   check_remains "$status"
   echo "round $round: $ending after $moment"
 done

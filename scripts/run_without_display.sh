@@ -9,19 +9,12 @@ set -euo pipefail
 picture=$1
 shift
 
-work=$(mktemp -d)
-screen=$work/Xvfb_screen0 # what the display shows, kept current by the X server
-server=
-program=
+source "$(dirname "${BASH_SOURCE[0]}")/display.sh"
 
-stop() {
-  trap - EXIT
-  local process
-  for process in $program $server; do
-    kill "$process" 2>/dev/null || true
-    wait "$process" 2>/dev/null || true
-  done
-  rm -rf "$work"
+fail() {
+  cat "$work/display" >&2
+  echo "scripts/run_without_display.sh: $1" >&2
+  exit 1
 }
 
 wait_for() { # SECONDS PROCESS CONDITION...: fails when the process ends or the time is over
@@ -35,34 +28,23 @@ wait_for() { # SECONDS PROCESS CONDITION...: fails when the process ends or the 
 
 is_painted() { # the screen is no longer blank, and has come to rest
   ! cmp -s "$screen" "$work/blank" || return 1
-  cp "$screen" "$work/seen"
+  cp "$screen" "$work/painted"
   sleep 0.3
-  cmp -s "$screen" "$work/seen"
-}
-
-save_picture() {
-  xwdtopnm -quiet "$screen" | pnmcrop -quiet -black | pnmtopng -quiet >"$picture"
+  cmp -s "$screen" "$work/painted"
 }
 
 export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$work} # Qt complains when there is none
-trap stop EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
 echo "Starting the game on a virtual display."
-Xvfb -displayfd 3 -screen 0 1600x1200x24 -fbdir "$work" -nolisten tcp -noreset \
-  3>"$work/number" 2>"$work/messages" &
-server=$!
-if ! wait_for 20 "$server" test -s "$work/number"; then
-  cat "$work/messages" >&2
-  echo "The virtual display did not start." >&2
-  exit 1
-fi
+start_display 1600x1200
 cp "$screen" "$work/blank"
 
-DISPLAY=:$(<"$work/number") QT_QPA_PLATFORM=xcb "$@" &
+QT_QPA_PLATFORM=xcb "$@" &
 program=$!
-if wait_for 60 "$program" is_painted && save_picture; then
+processes+=("$program")
+if wait_for 60 "$program" is_painted && save_picture "$picture"; then
   echo "A picture of the window is in $picture; Ctrl-C ends the game."
 else
   echo "No window was seen." >&2

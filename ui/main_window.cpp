@@ -17,7 +17,7 @@ void MainWindow::start(const std::string& command_line) {
   run_guarded([&] {
     globals = {};
     solver = {};
-    globals.TitreFenetre = std::string("SuDoKu ") + program_version;
+    globals.TitreFenetre = program_title;
     langage(globals.Langue);
     inactive();
     set_visible(Control::Command1, true);

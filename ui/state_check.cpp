@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "board/grid_text.hpp"
 #include "ui/messages.hpp"
 
 namespace sdk {
@@ -25,7 +26,7 @@ class Check {
 };
 
 std::string cell_name(std::string_view grid, int row, int column) {
-  return std::string(grid) + " r" + std::to_string(row) + "c" + std::to_string(column);
+  return std::string(grid) + ' ' + name_of(Cell{row, column});
 }
 
 bool is_between(int value, int low, int high) { return value >= low && value <= high; }

@@ -67,6 +67,11 @@ TEST(PuzzleOf, HoldsTheDigitsRowByRowAndZeroWhereTheLineHasADotOrAZero) {
   EXPECT_EQ(grid(9, 9), 5);
 }
 
+TEST(NameOf, ACellIsItsRowAndItsColumn) {
+  EXPECT_EQ(name_of(Cell{1, 9}), "r1c9");
+  EXPECT_EQ(name_of(cell_at(81)), "r9c9");
+}
+
 TEST(DigitsOf, AreTheDigitsRowByRowWithZeroForAnEmptyCell) {
   std::string digits = some_puzzle;
   for (char& c : digits)

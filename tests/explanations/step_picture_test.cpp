@@ -18,6 +18,7 @@
 #include "tests/logic/board_call.hpp"
 #include "tests/logic/candidates.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tests/support/wanted_count.hpp"
 #include "tools/walk/play.hpp"
 
 namespace sdk::test {
@@ -45,10 +46,6 @@ StepPicture picture_of_step(const Technique& technique, const Position& before) 
 // A drawing as text.
 
 using sdk::name_of;
-
-std::string name_of(Cell cell) {
-  return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column);
-}
 
 std::string name_of(const PictureLink& link) {
   EXPECT_EQ(link.from.digit, link.to.digit);
@@ -386,15 +383,9 @@ std::string fault_of(const Event& event) {
   return "";
 }
 
-/// From how many grids puzzles are made, six a grid.
-int grids_wanted() {
-  const char* const grids = std::getenv("HINT_GRIDS");
-  return grids ? std::atoi(grids) : 12;
-}
-
 TEST(StepDrawings, HoldTogetherInWalks) {
   PuzzleGenerator generator(20260102);
-  for (int grids = grids_wanted(); grids > 0; --grids)
+  for (int grids = wanted_count("HINT_GRIDS", 12); grids > 0; --grids)
     for (const Puzzle& puzzle : generator.next())
       play(puzzle_of(puzzle), [](const Event& event) {
         const auto* technique = event.deduction.technique;

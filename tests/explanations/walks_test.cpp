@@ -15,6 +15,7 @@
 #include "tests/explanations/sentence_judge.hpp"
 #include "tests/logic/board_call.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tests/support/wanted_count.hpp"
 #include "tools/walk/play.hpp"
 
 namespace sdk::test {
@@ -30,9 +31,8 @@ TEST(ToldWalks, SentencesOfTheLibraryAreTrueAndComplete) {
 }
 
 TEST(ToldWalks, SentencesOfMadeUpPuzzlesAreTrueAndComplete) {
-  const char* const grids = std::getenv("SENTENCE_GRIDS");
   PuzzleGenerator generator(7);
-  for (int i = 0; i < (grids ? std::atoi(grids) : 10); ++i)
+  for (int grids = wanted_count("SENTENCE_GRIDS", 10); grids > 0; --grids)
     for (const std::string& puzzle : generator.next()) expect_true_walk(puzzle);
 }
 

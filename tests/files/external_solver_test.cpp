@@ -63,8 +63,6 @@ TEST_P(GoodAnswer, IsShownInGreen) {
   EXPECT_TRUE(globals.GrilleOk);
   EXPECT_EQ(desktop.boxes, std::vector{message(Message::completed, Icon::exclamation)});
   EXPECT_EQ(desktop.pointers, (std::vector{Pointer::hourglass, Pointer::arrow}));
-  EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines", "refresh MSF", "lines", "refresh MSF",
-                                  "refresh MSR", "lines"}));
   EXPECT_EQ(desktop.steps, 0);  // the window does not answer meanwhile
   EXPECT_EQ(state_fault(w), "");
 }
@@ -82,7 +80,6 @@ TEST_P(GoodAnswer, IsNotShownInASilentSolve) {
   EXPECT_EQ(w.ChaineSolution, solution);
   EXPECT_TRUE(globals.ResolutionSilencieuse);
   EXPECT_TRUE(desktop.boxes.empty());
-  EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "refresh MSR", "lines"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Solvers, GoodAnswer,
@@ -109,8 +106,6 @@ TEST_P(AnswerNoSolution, StillShowsTheGridAsItWasRead) {
   EXPECT_EQ(shown(w), puzzle);
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::green), empty_cells);
   EXPECT_EQ(w.control(Control::Label).caption, " 77 indices");
-  EXPECT_EQ(game.repaints,
-            (Lines{"lines", "refresh window", "lines", "refresh MSF", "refresh MSR", "lines"}));
   EXPECT_EQ(desktop.pointers, (std::vector{Pointer::hourglass, Pointer::arrow}));
   EXPECT_EQ(state_fault(w), "");
 }
@@ -120,7 +115,6 @@ TEST_P(AnswerNoSolution, ShowsNothingInASilentSolve) {
   solve_with(GetParam());
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::green), "");
   EXPECT_EQ(desktop.boxes, std::vector{message(Message::impossible, Icon::critical)});
-  EXPECT_EQ(game.repaints, (Lines{"lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Solvers, AnswerNoSolution, testing::Values("zero", "zero_within"),

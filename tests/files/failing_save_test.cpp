@@ -8,6 +8,7 @@
 #include "tests/files/failing_steps.hpp"
 #include "tests/support/game.hpp"
 #include "tests/support/machine.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -34,7 +35,7 @@ class FailingSave : public testing::Test {
   void expect_rescued(const fs::path& target, const std::string& reason) {
     const std::string text = "SuDoKu doit s'arrêter (" + target.string() + ": " + reason +
                              "). La grille a été sauvée dans " + rescue();
-    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, program_title}}));
     EXPECT_EQ(desktop.errors, Lines{text});
     EXPECT_EQ(bytes_of(rescue()).substr(0, 40), " 1 2 3 4 5 6 7 8 9\r\n 4 5 6 7 8 9 1 2 3\r\n");
     EXPECT_EQ(bytes_of(rescue()).size(), 180u);

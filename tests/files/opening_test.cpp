@@ -8,6 +8,7 @@
 #include "tests/support/game.hpp"
 #include "tests/support/machine.hpp"
 #include "ui/state_check.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -181,7 +182,7 @@ TEST_F(Opening, AMissingFileEndsTheProgramWithTheGridOnScreenRescued) {
                            ": No such file or directory). La grille a été sauvée dans " +
                            (desktop.data_folder() / "SuDoKu-1.sdk").string();
   EXPECT_EQ(desktop.errors, Lines{text});
-  EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+  EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, program_title}}));
   EXPECT_EQ(desktop.rescued_file().substr(0, 20), " 1 2 3 4 5 6 7 8 9\r\n");
   EXPECT_EQ(w.title(), missing);
 }

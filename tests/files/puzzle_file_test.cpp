@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "tests/support/game.hpp"
 
@@ -75,7 +74,7 @@ TEST_F(PuzzleFile, WithCellsOfEmptyTextEndsInBlanks) {
 }
 
 TEST_F(PuzzleFile, ReplacesWhatTheFileHeld) {
-  std::ofstream(path) << std::string(5000, 'x');
+  write_file(path, std::string(5000, 'x'));
   EXPECT_EQ(saved(complete_grid).size(), 9u * 20);
 }
 

@@ -96,10 +96,9 @@ TEST_F(Reading, LeavesTheCellsAsTheyAreOnScreen) {
   EXPECT_EQ(shown(w), before);
 }
 
-TEST_F(Reading, ShowsTheNameAndRepaintsTheWindow) {
+TEST_F(Reading, ShowsTheName) {
   read(cells);
   EXPECT_EQ(w.title(), file.string());
-  EXPECT_EQ(game.repaints, Lines{"refresh window"});
 }
 
 TEST_F(Reading, TakesQuotesOutOfTheName) {

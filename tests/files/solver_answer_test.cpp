@@ -84,7 +84,6 @@ TEST_F(SolverAnswer, WithAZeroAnywhereInItsFirstLineTellsThatThereIsNoSolution) 
     EXPECT_FALSE(fs::exists(output()));
     EXPECT_FALSE(fs::exists(input()));
     EXPECT_EQ(game.desktop.pointers, std::vector{Pointer::arrow});
-    EXPECT_EQ(game.repaints, Lines{"lines"});
   }
 }
 

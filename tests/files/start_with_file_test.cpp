@@ -8,6 +8,7 @@
 #include "tests/support/game.hpp"
 #include "tests/support/machine.hpp"
 #include "ui/state_check.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -108,7 +109,7 @@ TEST_F(StartWithFile, ThatIsMissingEndsWithStatus1AndRescuesNoEmptyGrid) {
   EXPECT_EQ(status_of_start(missing), 1);
   const std::string text = "SuDoKu doit s'arrêter (" + missing + ": No such file or directory)";
   EXPECT_EQ(desktop.errors, Lines{text});
-  EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+  EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, program_title}}));
   EXPECT_TRUE(fs::is_empty(desktop.data_folder()));
   EXPECT_EQ(picks, 0);
 }

@@ -3,25 +3,12 @@
 
 #include "tests/game/plain_search.hpp"
 
+#include "board/grid_text.hpp"
+#include "tests/game/plain_check.hpp"
+
 namespace sdk::test {
 
 namespace {
-
-/// The value under test against the eight others of its row, the eight of its column and the four
-/// of its box that share neither.
-bool passes(const Square<std::int16_t>& grid, int row, int column) {
-  const int v = grid(row, column);
-  bool result = true;
-  for (int k = 1; k <= 9; ++k) {
-    if (k != column && grid(row, k) == v) result = false;
-    if (k != row && grid(k, column) == v) result = false;
-  }
-  const int r0 = (row - 1) / 3 * 3 + 1, c0 = (column - 1) / 3 * 3 + 1;
-  for (int r = r0; r <= r0 + 2; ++r)
-    for (int c = c0; c <= c0 + 2; ++c)
-      if (r != row && c != column && grid(r, c) == v) result = false;
-  return result;
-}
 
 /// A search below this one can end before the first cell, where there is nothing to look at.
 bool outside(const MainWindow& w) { return w.Ligne < 1 || w.Colonne < 1; }
@@ -71,8 +58,7 @@ void solved(MainWindow& w) {
   if (!globals.ResolutionSilencieuse) {
     w.Afficher_resGrille();
   } else {
-    w.ChaineSolution.clear();
-    for (int k = 0; k < 81; ++k) w.ChaineSolution += std::to_string(w.Grille(k / 9 + 1, k % 9 + 1));
+    w.ChaineSolution = digits_of(w.Grille);
   }
   w.MSF.refresh();
   w.MajCandidats();

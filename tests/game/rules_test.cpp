@@ -232,7 +232,6 @@ TEST_F(Rules, CreateGrilleWritesTheTextWithFilledCellsOnTheGivensColour) {
   EXPECT_EQ(w.MSF.selection(), (CellRange{8, 8, 8, 8}));
   EXPECT_EQ(game.msf.times_hidden, 1);
   EXPECT_EQ(game.msf.changes_while_visible, 0);
-  EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines"}));
 }
 
 TEST_F(Rules, CreateGrilleOfAShortTextLeavesEmptyTextsThatCountAsFilled) {
@@ -283,7 +282,6 @@ TEST_F(Rules, AfficherWritesTheDigitsGreenWhereTheCellWasNotFixed) {
   EXPECT_EQ(w.MSF.selection(), (CellRange{8, 8, 8, 8}));
   EXPECT_EQ(game.msf.times_hidden, 1);
   EXPECT_EQ(game.msf.changes_while_visible, 0);
-  EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines", "refresh MSF", "lines"}));
 }
 
 TEST_F(Rules, AfficherLeavesTheTextsOfZerosBetweenDigits) {
@@ -331,7 +329,6 @@ TEST_F(Rules, AFullValidGridIsAnnouncedAtEveryCount) {
   EXPECT_EQ(w.control(Control::Label).caption, " 81 indices");
   EXPECT_EQ(desktop.boxes, (std::vector{message(Message::completed, Icon::exclamation),
                                         message(Message::completed, Icon::exclamation)}));
-  EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines", "refresh MSF", "lines"}));
 }
 
 TEST_F(Rules, AFullGridWithAClashIsCalledImpossibleAndKept) {
@@ -399,7 +396,6 @@ TEST_F(Rules, ShowBadValuesGivesFoundDigitsGreenAndWrongGivensRed) {
   EXPECT_EQ(w.MSF.selection(), (CellRange{8, 8, 8, 8}));
   EXPECT_EQ(game.msf.times_hidden, 1);
   EXPECT_EQ(game.msf.changes_while_visible, 0);
-  EXPECT_EQ(game.repaints, (Lines{"refresh MSF", "lines"}));
   EXPECT_TRUE(desktop.boxes.empty());
 }
 

@@ -8,6 +8,7 @@
 #include "puzzles/stock/random.hpp"
 #include "tests/game/plain_search.hpp"
 #include "tests/support/game.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -231,8 +232,6 @@ TEST_F(Search, ShowsTheSolutionInGreenAndAnnouncesIt) {
   EXPECT_TRUE(w.MSF.tab_stop());
   EXPECT_TRUE(w.MSF.marks_current());
   EXPECT_EQ(w.MSF.cell(6, 0).text_colour, colour::green) << "a player's digit keeps its colour";
-  EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines", "refresh window", "lines",
-                                  "refresh MSF", "lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 
 TEST_F(Search, CallsForEventsOnceAStep) {
@@ -252,8 +251,6 @@ TEST_F(Search, FillsOnlyTheSolutionWhenSilent) {
   EXPECT_TRUE(desktop.boxes.empty());
   EXPECT_TRUE(globals.GrilleOk);
   EXPECT_TRUE(globals.ResolutionSilencieuse);
-  EXPECT_EQ(game.repaints,
-            (Lines{"refresh window", "lines", "refresh MSF", "refresh MSR", "lines"}));
 }
 
 TEST_F(Search, ShowsTheButtonsThatNeedAPuzzleWhenItEnds) {
@@ -328,7 +325,7 @@ TEST_F(Search, StoppedByEscapeSaysSoAndLeavesTheDisplay) {
   w.Resoudre();
   EXPECT_EQ(desktop.steps, 100);
   EXPECT_EQ(desktop.boxes,
-            (std::vector{Box{"Solver stopped!", Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+            (std::vector{Box{"Solver stopped!", Icon::critical, Buttons::ok, program_title}}));
   EXPECT_EQ(shown(w), sparse_puzzle);
   EXPECT_EQ(cells_with_text_colour(w.MSF, colour::black), all_cells());
   EXPECT_FALSE(globals.GrilleOk);
@@ -363,7 +360,6 @@ TEST_F(Search, IsPreparedBeforeItsFirstStep) {
     EXPECT_TRUE(w.visible(Control::Command1));
     EXPECT_TRUE(w.visible(Control::Command6));
     EXPECT_EQ(w.searches_running, 1);
-    EXPECT_EQ(game.repaints, (Lines{"refresh window", "lines"}));
   };
   w.Resoudre();
   EXPECT_EQ(w.searches_running, 0);

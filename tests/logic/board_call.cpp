@@ -6,6 +6,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "board/grid_text.hpp"
 #include "logic/techniques.hpp"
 #include "tests/logic/candidates.hpp"
 
@@ -89,8 +90,8 @@ std::string cell_differences(const Cells& wanted, const Cells& got) {
   for (int row = 1; row <= 9; ++row)
     for (int column = 1; column <= 9; ++column)
       if (!(wanted(row, column) == got(row, column)))
-        text += "r" + std::to_string(row) + "c" + std::to_string(column) + " should be " +
-                words(wanted(row, column)) + "\n     but is    " + words(got(row, column)) + "\n";
+        text += name_of(Cell{row, column}) + " should be " + words(wanted(row, column)) +
+                "\n     but is    " + words(got(row, column)) + "\n";
   return text.empty() ? text : text + "the call did:\n" + whole_drawing(got);
 }
 

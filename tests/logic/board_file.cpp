@@ -4,13 +4,12 @@
 #include "tests/logic/board_file.hpp"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 
 #include "board/cells.hpp"
 #include "logic/techniques.hpp"
+#include "tests/support/files.hpp"
 
 namespace sdk::test {
 
@@ -215,16 +214,15 @@ BoardFile parse_boards(std::string_view text, const std::string& file_name) {
 }
 
 BoardFile read_boards(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw Malformed(file.string() + " cannot be read");
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
-  return parse_boards(text, file.filename().string());
+  if (!std::filesystem::is_regular_file(file)) throw Malformed(file.string() + " cannot be read");
+  return parse_boards(bytes_of(file), file.filename().string());
 }
 
 std::vector<BoardFile> read_all_boards(const std::filesystem::path& folder) {
   std::vector<BoardFile> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder))
     if (entry.path().extension() == ".txt") files.push_back(read_boards(entry.path()));
+  if (files.empty()) throw Malformed(folder.string() + " holds no boards");
   return files;
 }
 

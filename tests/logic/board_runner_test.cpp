@@ -6,16 +6,14 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <vector>
 
 #include "logic/techniques.hpp"
 #include "tests/logic/board_call.hpp"
+#include "tests/support/files.hpp"
 
 namespace sdk::test {
 namespace {
@@ -233,16 +231,11 @@ int exit_status(const std::string& arguments) {
 /// A file of that content for as long as this lives.
 class BoardsOnDisk {
  public:
-  explicit BoardsOnDisk(const std::string& text) {
-    std::filesystem::create_directories(folder_);
-    std::ofstream(path()) << text;
-  }
-  ~BoardsOnDisk() { std::filesystem::remove_all(folder_); }
+  explicit BoardsOnDisk(const std::string& text) { write_file(path(), text); }
   std::string path() const { return (folder_ / "01_test.txt").string(); }
 
  private:
-  std::filesystem::path folder_ =
-      std::filesystem::temp_directory_path() / ("boards_" + std::to_string(getpid()));
+  ScratchFolder folder_;
 };
 
 TEST(RunBoards, ADifferenceAndAMalformedFileFailTheRun) {

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 add_library(boards STATIC board_call.cpp board_file.cpp drawn_cell.cpp)
-target_link_libraries(boards PUBLIC sudoku_logic)
+target_link_libraries(boards PUBLIC sudoku_logic test_files)
 
 add_executable(run_boards run_boards.cpp)
 target_link_libraries(run_boards PRIVATE boards sudoku_command_line GTest::gtest)

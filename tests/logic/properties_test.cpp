@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <set>
 
 #include "board/grid_text.hpp"
@@ -15,21 +14,17 @@
 #include "logic/run.hpp"
 #include "tests/support/puzzle_generator.hpp"
 #include "tests/support/solution_counter.hpp"
+#include "tests/support/wanted_count.hpp"
 #include "tools/walk/play.hpp"
 
 namespace sdk::test {
 namespace {
 
-int grids_wanted() {
-  const char* const grids = std::getenv("HINT_GRIDS");
-  return grids ? std::atoi(grids) : 10;
-}
-
 const std::vector<Puzzle>& puzzles() {
   static const auto all = [] {
     PuzzleGenerator generator(20260101);
     std::vector<Puzzle> list;
-    for (int left = grids_wanted(); left > 0; --left)
+    for (int left = wanted_count("HINT_GRIDS", 10); left > 0; --left)
       for (Puzzle& puzzle : generator.next()) list.push_back(std::move(puzzle));
     return list;
   }();

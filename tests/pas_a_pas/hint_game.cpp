@@ -3,13 +3,10 @@
 
 #include "tests/pas_a_pas/hint_game.hpp"
 
+#include "board/grid_text.hpp"
 #include "puzzles/stock/entry_text.hpp"
 
 namespace sdk::test {
-
-std::string name_of(Cell cell) {
-  return "r" + std::to_string(cell.row) + "c" + std::to_string(cell.column);
-}
 
 std::string library_puzzle(int number) {
   return puzzle_text(BibliothequeGrilles.at(static_cast<std::size_t>(number - 1)));

@@ -13,8 +13,6 @@
 
 namespace sdk::test {
 
-std::string name_of(Cell cell);
-
 /// Entry `number` (1..40) of the library, for drawing.
 std::string library_puzzle(int number);
 

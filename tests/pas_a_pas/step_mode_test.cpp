@@ -8,11 +8,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 
+#include "board/grid_text.hpp"
 #include "pas_a_pas/driver.hpp"
 #include "tests/pas_a_pas/hint_game.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tests/support/wanted_count.hpp"
 #include "tools/walk/walk.hpp"
 
 namespace sdk::test {
@@ -21,8 +22,7 @@ namespace {
 std::vector<Puzzle> puzzles() {
   PuzzleGenerator generator(20260101);
   std::vector<Puzzle> list;
-  const char* const wanted = std::getenv("HINT_GRIDS");
-  for (int grids = wanted ? std::atoi(wanted) : 15; grids > 0; --grids)
+  for (int grids = wanted_count("HINT_GRIDS", 15); grids > 0; --grids)
     for (Puzzle& puzzle : generator.next()) list.push_back(std::move(puzzle));
   return list;
 }

@@ -7,32 +7,25 @@
 // PROOF_GRIDS in the environment says from how many grids these are made (10 without), six a grid.
 // Prints each fault and a table; the exit status is 1 when there is a fault.
 
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <string>
 
 #include "tests/proofs/walk_audit.hpp"
+#include "tests/support/files.hpp"
 #include "tests/support/puzzle_generator.hpp"
+#include "tests/support/wanted_count.hpp"
 #include "tools/command_line/command_line.hpp"
 
 namespace {
 
 using Puzzles = std::vector<std::string>;
 
-int grid_count() {
-  const char* const grids = std::getenv("PROOF_GRIDS");
-  return grids ? std::atoi(grids) : 10;
-}
-
 Puzzles made_up_puzzles(std::uint32_t seed) {
   sdk::test::PuzzleGenerator generator(seed);
   Puzzles all;
-  for (int i = 0; i < grid_count(); ++i)
+  for (int grids = sdk::test::wanted_count("PROOF_GRIDS", 10); grids > 0; --grids)
     for (const std::string& puzzle : generator.next()) all.push_back(puzzle);
   return all;
 }
@@ -41,17 +34,14 @@ Puzzles made_up_puzzles(std::uint32_t seed) {
 class PuzzlesOnDisk {
  public:
   explicit PuzzlesOnDisk(const Puzzles& puzzles) {
-    std::ofstream file(path_);
-    for (const std::string& puzzle : puzzles) file << puzzle << '\n';
+    std::string lines;
+    for (const std::string& puzzle : puzzles) lines += puzzle + '\n';
+    sdk::test::write_file(path(), lines);
   }
-  ~PuzzlesOnDisk() { std::filesystem::remove(path_); }
-  PuzzlesOnDisk(const PuzzlesOnDisk&) = delete;
-  PuzzlesOnDisk& operator=(const PuzzlesOnDisk&) = delete;
-  std::string path() const { return path_.string(); }
+  std::string path() const { return (folder_ / "puzzles").string(); }
 
  private:
-  std::filesystem::path path_ =
-      std::filesystem::temp_directory_path() / ("proofs_" + std::to_string(getpid()));
+  sdk::test::ScratchFolder folder_;
 };
 
 void read_all(std::FILE* stream, sdk::proofs::WalkAudit& audit) {

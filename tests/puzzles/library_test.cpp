@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 
+#include "board/grid_text.hpp"
 #include "puzzles/stock/transformer.hpp"
 #include "tests/support/game.hpp"
 
@@ -31,14 +32,11 @@ class Picking : public testing::Test {
 
   /// The number of the entry that was picked.
   int picked() const {
-    std::string mask, solution;
+    std::string mask;
     for (int r = 1; r <= 9; ++r)
-      for (int c = 1; c <= 9; ++c) {
-        mask += w.Masque(r, c) ? '1' : '0';
-        solution += static_cast<char>('0' + w.resGrille(r, c));
-      }
+      for (int c = 1; c <= 9; ++c) mask += w.Masque(r, c) ? '1' : '0';
     for (int n = 1; n <= 40; ++n)
-      if (entry(n).mask == mask && entry(n).solution == solution) return n;
+      if (entry(n).mask == mask && entry(n).solution == digits_of(w.resGrille)) return n;
     return 0;
   }
 

@@ -3,9 +3,6 @@
 
 #include "tests/support/fake_desktop.hpp"
 
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "screen/errors.hpp"
@@ -24,12 +21,6 @@ T take_first(std::deque<T>& queue, T otherwise) {
   return first;
 }
 
-fs::path new_folder() {
-  std::string name = (fs::temp_directory_path() / "sudoku-test-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  return name;
-}
-
 }  // namespace
 
 std::ostream& operator<<(std::ostream& out, const Box& box) {
@@ -38,13 +29,8 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
              << box.text << "\" " << (box.buttons == Buttons::ok ? "ok" : "yes,no");
 }
 
-FakeDesktop::FakeDesktop() : scratch_(new_folder()) {
+FakeDesktop::FakeDesktop() {
   for (const char* name : {"data", "program", "tmp"}) fs::create_directory(scratch_ / name);
-}
-
-FakeDesktop::~FakeDesktop() {
-  std::error_code ignored;
-  fs::remove_all(scratch_, ignored);
 }
 
 void FakeDesktop::forget() {
@@ -134,11 +120,5 @@ void FakeDesktop::replace_file(const std::string& file, std::string_view bytes) 
 }
 
 void FakeDesktop::report_error(const std::string& line) { errors.push_back(line); }
-
-std::string bytes_of(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw std::runtime_error("cannot read " + file.string());
-  return {std::istreambuf_iterator<char>(in), {}};
-}
 
 }  // namespace sdk::test

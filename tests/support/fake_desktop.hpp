@@ -13,6 +13,7 @@
 
 #include "files/platform_desktop.hpp"
 #include "files/safe_write.hpp"
+#include "tests/support/files.hpp"
 
 namespace sdk::test {
 
@@ -29,10 +30,6 @@ std::ostream& operator<<(std::ostream& out, const Box& box);
 class FakeDesktop : public PlatformDesktop {
  public:
   FakeDesktop();
-  /// Removes its folders.
-  ~FakeDesktop() override;
-  FakeDesktop(const FakeDesktop&) = delete;
-  FakeDesktop& operator=(const FakeDesktop&) = delete;
 
   // The script.
   std::deque<Answer> answers;      ///< of the next Yes/No boxes; with none left: no
@@ -90,10 +87,7 @@ class FakeDesktop : public PlatformDesktop {
  private:
   std::string next_file(const std::string& filter);
 
-  std::filesystem::path scratch_;
+  ScratchFolder scratch_;
 };
-
-/// The bytes of a file.
-std::string bytes_of(const std::filesystem::path& file);
 
 }  // namespace sdk::test

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/game.hpp"
+#include "board/grid_text.hpp"
 
 #include <algorithm>
 #include <sstream>
@@ -46,10 +47,6 @@ void for_each_cell(Visit visit) {
     for (int c = 1; c <= 9; ++c) visit(r, c);
 }
 
-std::string name_of(int row, int column) {
-  return "r" + std::to_string(row) + "c" + std::to_string(column);
-}
-
 struct Look {
   std::string text;
   Colour text_colour, back_colour;
@@ -67,7 +64,7 @@ template <class Holds>
 std::string cells_where(Holds holds) {
   std::string names;
   for_each_cell([&](int r, int c) {
-    if (holds(r, c)) names += (names.empty() ? "" : " ") + name_of(r, c);
+    if (holds(r, c)) names += (names.empty() ? "" : " ") + name_of(Cell{r, c});
   });
   return names;
 }
@@ -89,10 +86,10 @@ std::string on_one_line(std::string text) {
 
 void dump_grid(std::ostream& out, const char* name, const DisplayGrid& grid) {
   const CellRange s = grid.selection();
-  out << name << " current " << name_of(grid.current_row() + 1, grid.current_column() + 1)
-      << " selection " << name_of(s.first_row + 1, s.first_column + 1) << ' '
-      << name_of(s.last_row + 1, s.last_column + 1) << " visible " << grid.visible() << " tab "
-      << grid.tab_stop() << " marks " << grid.marks_current() << '\n';
+  out << name << " current " << name_of(Cell{grid.current_row() + 1, grid.current_column() + 1})
+      << " selection " << name_of(Cell{s.first_row + 1, s.first_column + 1}) << ' '
+      << name_of(Cell{s.last_row + 1, s.last_column + 1}) << " visible " << grid.visible()
+      << " tab " << grid.tab_stop() << " marks " << grid.marks_current() << '\n';
   out << std::hex << nine_lines([&](std::ostream& line, int r, int c) {
     const DisplayCell& cell = grid.cell(r - 1, c - 1);
     line << '"' << on_one_line(cell.text) << "\" " << std::hex << cell.text_colour << ' '

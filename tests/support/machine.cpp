@@ -9,35 +9,11 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
 #include <stdexcept>
-#include <vector>
 
 namespace sdk::test {
 
 namespace fs = std::filesystem;
-
-ScratchFolder::ScratchFolder() {
-  std::string name = (fs::temp_directory_path() / "sudoku-files-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  folder_ = name;
-  fs::permissions(folder_, fs::perms(0755));
-}
-
-ScratchFolder::~ScratchFolder() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
-}
-
-std::string ScratchFolder::names() const {
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder_))
-    names.push_back(entry.path().filename().string());
-  std::ranges::sort(names);
-  std::string text;
-  for (const std::string& name : names) text += (text.empty() ? "" : " ") + name;
-  return text;
-}
 
 namespace {
 
@@ -87,12 +63,6 @@ FileLimit::FileLimit(std::size_t bytes) {
 FileLimit::~FileLimit() {
   limit_files(RLIM_INFINITY);
   std::signal(SIGXFSZ, SIG_DFL);
-}
-
-void write_file(const fs::path& file, std::string_view bytes) {
-  std::ofstream stream(file, std::ios::binary);
-  stream << bytes << std::flush;
-  if (!stream) throw std::runtime_error("cannot write " + file.string());
 }
 
 unsigned rights_of(const fs::path& file) {

@@ -7,7 +7,8 @@
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <string_view>
+
+#include "tests/support/files.hpp"
 
 namespace sdk::test {
 
@@ -18,23 +19,6 @@ inline constexpr const char* puzzle =
     ".5421963.\n";
 inline constexpr const char* solution =
     "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
-
-/// A fresh folder, removed at the end with all that is in it. Everybody may enter it.
-class ScratchFolder {
- public:
-  ScratchFolder();
-  ~ScratchFolder();
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  std::filesystem::path operator/(std::string_view name) const { return folder_ / name; }
-  const std::filesystem::path& path() const { return folder_; }
-  /// The names of its files, in order.
-  std::string names() const;
-
- private:
-  std::filesystem::path folder_;
-};
 
 /// Puts the current folder back.
 class KeptFolder {
@@ -78,8 +62,6 @@ class FileLimit {
   FileLimit(const FileLimit&) = delete;
   FileLimit& operator=(const FileLimit&) = delete;
 };
-
-void write_file(const std::filesystem::path& file, std::string_view bytes);
 
 /// Owner, group and others: 0777 at most.
 unsigned rights_of(const std::filesystem::path& file);

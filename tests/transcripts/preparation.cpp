@@ -3,8 +3,6 @@
 
 #include "tests/transcripts/preparation.hpp"
 
-#include <fstream>
-
 #include "tests/transcripts/transcript.hpp"
 
 namespace sdk {
@@ -41,9 +39,7 @@ void write_file(const std::string& arguments) {
   const std::string path = arguments.substr(0, quote);
   const std::string_view text =
       std::string_view(arguments).substr(quote + 2, arguments.size() - quote - 3);
-  std::ofstream stream(path, std::ios::binary);
-  stream << unescaped(text) << std::flush;
-  if (!stream) throw Malformed("cannot write " + path);
+  test::write_file(path, unescaped(text));
 }
 
 void install_solver(const std::string& name, const fs::path& program) {
@@ -58,7 +54,7 @@ void prepare(const std::string& line, const Scratch& scratch) {
   const auto blank = line.find(' ');
   const std::string what = line.substr(0, blank);
   const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-  if (what == "file") return write_file(scratch.with_paths(rest));
+  if (what == "file") return write_file(scratch.without_placeholders(rest));
   if (what == "solver") return install_solver(rest, scratch.program());
   throw Malformed("neither file nor solver: " + line);
 }

@@ -12,7 +12,7 @@ namespace sdk {
 
 /// Does what a line says, its mark taken off: `file PATH "TEXT"` writes a file, TEXT escaped as
 /// `show file` escapes it; `solver NAME` puts a stand-in of the external solver beside the program.
-/// Throws Malformed.
+/// Throws Malformed, and std::runtime_error when it cannot write.
 void prepare(const std::string& line, const Scratch& scratch);
 
 }  // namespace sdk

@@ -4,13 +4,14 @@
 // Plays transcripts and compares what they print with what they expect.
 
 #include <algorithm>
-#include <fstream>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <iostream>
-#include <iterator>
 #include <string>
 #include <vector>
 
-#include "tests/transcripts/diff.hpp"
+#include "tests/support/files.hpp"
 #include "tests/transcripts/transcript.hpp"
 #include "tools/command_line/command_line.hpp"
 
@@ -19,24 +20,33 @@ namespace {
 enum Status { same = 0, different = 1, unusable = 2 };
 
 std::string content(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw sdk::Malformed("cannot be read");
-  return {std::istreambuf_iterator<char>(stream), {}};
+  if (!std::filesystem::is_regular_file(path)) throw sdk::Malformed("cannot be read");
+  return sdk::test::bytes_of(path);
 }
 
 void rewrite(const std::string& path, const sdk::Lines& lines) {
-  std::ofstream stream(path, std::ios::binary);
-  for (const std::string& line : lines) stream << line << '\n';
-  stream.flush();
-  if (!stream) throw sdk::Malformed("cannot be written");
+  std::string text;
+  for (const std::string& line : lines) text += line + '\n';
+  sdk::test::write_file(path, text);
+}
+
+/// Prints how `actual` differs from the file.
+void show_difference(const std::string& path, const sdk::Lines& actual) {
+  setenv("TRANSCRIPT", path.c_str(), 1);  // no shell has to understand a path
+  std::FILE* const diff = popen(
+      "diff -u --label \"$TRANSCRIPT expects\" --label 'the program prints' -- "
+      "\"$TRANSCRIPT\" -",
+      "w");
+  if (!diff) throw sdk::Malformed("differs, and diff cannot be run");
+  for (const std::string& line : actual) std::fputs((line + '\n').c_str(), diff);
+  pclose(diff);
 }
 
 Status compare(const std::string& path, bool rewriting) {
   const sdk::Lines expected = sdk::lines_of(content(path));
   const sdk::Lines actual = sdk::replay(expected);
   if (expected == actual) return same;
-  std::cout << "--- " << path << " expects\n+++ the program prints\n"
-            << sdk::diff(expected, actual);
+  show_difference(path, actual);
   if (!rewriting) return different;
   rewrite(path, actual);
   return same;
@@ -45,7 +55,7 @@ Status compare(const std::string& path, bool rewriting) {
 Status run(const std::string& path, bool rewriting) {
   try {
     return compare(path, rewriting);
-  } catch (const sdk::Malformed& fault) {
+  } catch (const std::runtime_error& fault) {
     std::cerr << path << ": " << fault.what() << '\n';
     return unusable;
   }

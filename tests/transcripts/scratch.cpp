@@ -4,28 +4,15 @@
 #include "tests/transcripts/scratch.hpp"
 
 #include <cstdlib>
-#include <stdexcept>
 #include <string_view>
+
+#include "ui/version.hpp"
 
 namespace sdk {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Placeholder {
-  std::string_view name;
-  const char* folder;  ///< below the scratch folder
-};
-
-constexpr Placeholder placeholders[] = {
-    {"<program>", "program"}, {"<tmp>", "tmp"}, {"<data>", "share/sudoku"}, {"<work>", "work"}};
-
-fs::path fresh_folder() {
-  std::string pattern = (fs::canonical(fs::temp_directory_path()) / "transcript-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a folder like " + pattern);
-  return pattern;
-}
 
 void replace_all(std::string& text, std::string_view from, std::string_view to) {
   for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
@@ -34,10 +21,15 @@ void replace_all(std::string& text, std::string_view from, std::string_view to) 
 
 }  // namespace
 
-Scratch::Scratch() : root_(fresh_folder()), start_folder_(fs::current_path()) {
-  for (const Placeholder& p : placeholders) fs::create_directories(root_ / p.folder);
+Scratch::Scratch()
+    : start_folder_(fs::current_path()),
+      placeholders_{{"<program>", make_folder("program")},
+                    {"<tmp>", make_folder("tmp")},
+                    {"<data>", make_folder("share/sudoku")},
+                    {"<work>", make_folder("work")},
+                    {"<title>", program_title}} {
   setenv("XDG_DATA_HOME", (root_ / "share").c_str(), 1);
-  setenv("HOME", root_.c_str(), 1);
+  setenv("HOME", root_.path().c_str(), 1);
   setenv("tmp", (root_ / "tmp").c_str(), 1);
   fs::current_path(root_ / "work");
 }
@@ -45,16 +37,20 @@ Scratch::Scratch() : root_(fresh_folder()), start_folder_(fs::current_path()) {
 Scratch::~Scratch() {
   std::error_code ignored;
   fs::current_path(start_folder_, ignored);
-  fs::remove_all(root_, ignored);
 }
 
-std::string Scratch::with_paths(std::string text) const {
-  for (const Placeholder& p : placeholders) replace_all(text, p.name, (root_ / p.folder).string());
+fs::path Scratch::make_folder(const char* name) {
+  fs::create_directories(root_ / name);
+  return root_ / name;
+}
+
+std::string Scratch::without_placeholders(std::string text) const {
+  for (const Placeholder& p : placeholders_) replace_all(text, p.name, p.meaning);
   return text;
 }
 
 std::string Scratch::with_placeholders(std::string text) const {
-  for (const Placeholder& p : placeholders) replace_all(text, (root_ / p.folder).string(), p.name);
+  for (const Placeholder& p : placeholders_) replace_all(text, p.meaning, p.name);
   return text;
 }
 

@@ -6,6 +6,9 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
+
+#include "tests/support/files.hpp"
 
 namespace sdk {
 
@@ -18,15 +21,24 @@ class Scratch {
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
-  /// `text` with <program>, <tmp>, <data> and <work> replaced by the folders' paths.
-  std::string with_paths(std::string text) const;
+  /// `text` with <program>, <tmp>, <data> and <work> replaced by the folders' paths, <title> by the
+  /// program's name and version.
+  std::string without_placeholders(std::string text) const;
   /// The other way round.
   std::string with_placeholders(std::string text) const;
   std::filesystem::path program() const { return root_ / "program"; }
   std::filesystem::path tmp() const { return root_ / "tmp"; }
 
  private:
-  std::filesystem::path root_, start_folder_;
+  struct Placeholder {
+    std::string name, meaning;
+  };
+
+  std::filesystem::path make_folder(const char* name);
+
+  test::ScratchFolder root_;
+  std::filesystem::path start_folder_;
+  std::vector<Placeholder> placeholders_;
 };
 
 }  // namespace sdk

@@ -49,7 +49,7 @@ class ScriptRun {
   Lines output_of(const std::string& command) {
     out_.str("");
     errors_.str("");
-    script_.run(scratch_.with_paths(command));
+    script_.run(scratch_.without_placeholders(command));
     Lines output = marked(out_, "");
     for (std::string& line : marked(errors_, "(standard error) "))
       output.push_back(std::move(line));

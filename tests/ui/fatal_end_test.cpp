@@ -5,9 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "tests/support/game.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -28,7 +27,7 @@ class FatalEnd : public testing::Test {
 
   void expect_said(const std::string& text) {
     EXPECT_EQ(desktop.errors, Lines{text});
-    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, "SuDoKu 1.0.0"}}));
+    EXPECT_EQ(desktop.boxes, (std::vector{Box{text, Icon::critical, Buttons::ok, program_title}}));
   }
 
   std::string path(const std::string& name) { return (desktop.data_folder() / name).string(); }
@@ -64,7 +63,7 @@ TEST_F(FatalEnd, ComesWhenThePrintingItselfFails) {
 }
 
 TEST_F(FatalEnd, NeverOverwritesAnEarlierGrid) {
-  std::ofstream(path("SuDoKu-1.sdk")) << "precious";
+  write_file(path("SuDoKu-1.sdk"), "precious");
   desktop.has_printer = false;
   EXPECT_EQ(status_of_printing(), 1);
   EXPECT_EQ(bytes_of(path("SuDoKu-1.sdk")), "precious");

@@ -7,6 +7,7 @@
 
 #include "tests/support/game.hpp"
 #include "ui/messages.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -85,7 +86,8 @@ TEST_F(Languages, GiveEveryLevelItemItsNumber) {
 }
 
 TEST_F(Languages, LeaveTheCreditLabelWithoutTheTitle) {
-  EXPECT_EQ(w.control(Control::Label3).caption, "SuDoKu 1.0.0 proposé par l'équipe SuDoKu");
+  EXPECT_EQ(w.control(Control::Label3).caption,
+            std::string(program_title) + " proposé par l'équipe SuDoKu");
   w.preview_key(key::f1);
   EXPECT_EQ(w.control(Control::Label3).caption, " proposed by the SuDoKu team");
   w.preview_key(key::f2);
@@ -110,7 +112,7 @@ TEST_F(Languages, LeaveTheGridTheCountAndTheWindowsTitle) {
   w.preview_key(key::f1);
   EXPECT_EQ(shown(w), grid);
   EXPECT_EQ(w.control(Control::Label).caption, count);
-  EXPECT_EQ(w.title(), "SuDoKu 1.0.0");
+  EXPECT_EQ(w.title(), program_title);
 }
 
 TEST_F(Languages, AreEnglishForAnyNameButExactlyFr) {

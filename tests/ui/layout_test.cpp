@@ -60,7 +60,6 @@ TEST(BoxLines, AreFourOverThePuzzleWhileTheCandidatesAreHidden) {
   Game game;
   game.window.trace_ligne();
   EXPECT_EQ(game.window.lines(), four_lines(layout(false).MSF));
-  EXPECT_EQ(game.repaints, Lines{"lines"});
 }
 
 TEST(BoxLines, AreEightWithTheCandidatesThePuzzlesFirst) {
@@ -69,14 +68,6 @@ TEST(BoxLines, AreEightWithTheCandidatesThePuzzlesFirst) {
   auto expected = four_lines(layout(true).MSF);
   for (const LineDrawing& line : four_lines(layout(true).MSR)) expected.push_back(line);
   EXPECT_EQ(game.window.lines(), expected);
-}
-
-TEST(BoxLines, AreDrawnAgainOnMouseAndResizeEvents) {
-  Game game;
-  const std::string before = dump(game.window);
-  game.window.redraw_lines();
-  EXPECT_EQ(game.repaints, Lines{"lines"});
-  EXPECT_EQ(dump(game.window), before);
 }
 
 }  // namespace

@@ -134,7 +134,8 @@ Action answer(Script& script, Arguments& arguments) {
     return [&script, path] { script.desktop().queue_file(path); };
   }
   const Answer given = arguments.take_choice("yes", "no") ? Answer::yes : Answer::no;
-  return [&script, given] { script.desktop().queue_answer(given); };
+  const long times = arguments.empty() ? 1 : arguments.take_number("N", 1, 999);
+  return [&script, given, times] { script.desktop().queue_answer(given, times); };
 }
 
 /// All but the list of steps waits for the answer.
@@ -214,9 +215,9 @@ constexpr Command table[] = {
      "a click on Picture, Label2, Label1, lblVersion or lblCopyright of the about box, or any key "
      "pressed in it",
      event, about},
-    {"answer", "yes|no | file PATH",
-     "answer of the next Yes/No box or file dialog; queued. Without one a box is answered no and a "
-     "dialog cancelled. Other boxes take none",
+    {"answer", "yes|no [N] | file PATH",
+     "answer of the next Yes/No box, or of the next N, or of the next file dialog; queued. Without "
+     "one a box is answered no and a dialog cancelled. Other boxes take none",
      event, answer},
     {"at", "N|question COMMAND",
      "COMMAND happens at the N-th \"let pending events run\" of the next search; dropped when the "

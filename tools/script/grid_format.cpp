@@ -3,15 +3,14 @@
 
 #include "tools/script/grid_format.hpp"
 
+#include "board/grid_text.hpp"
 #include "game/window.hpp"
 #include "screen/digit_frames.hpp"
 #include "tools/script/text_format.hpp"
 
 namespace sdk {
 
-std::string cell_name(int row, int column) {
-  return 'r' + std::to_string(row + 1) + 'c' + std::to_string(column + 1);
-}
+std::string cell_name(int row, int column) { return name_of(Cell{row + 1, column + 1}); }
 
 namespace {
 

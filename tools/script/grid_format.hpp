@@ -22,7 +22,7 @@ std::string square_text(const char* separator, CellText cell) {
   return text;
 }
 
-/// "r1c1".
+/// "r1c1" for row 0, column 0.
 std::string cell_name(int row, int column);
 
 /// One line: text, text colour, back colour, font size and mark.

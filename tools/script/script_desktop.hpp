@@ -34,7 +34,9 @@ class ScriptDesktop final : public PlatformDesktop {
   /// What happens while a Yes/No box is open.
   void set_question(std::function<void()> question) { question_ = std::move(question); }
   /// Answers are taken in the order in which they were queued.
-  void queue_answer(Answer answer) { answers_.push_back(answer); }
+  void queue_answer(Answer answer, long times) {
+    answers_.insert(answers_.end(), static_cast<std::size_t>(times), answer);
+  }
   void queue_file(std::string path) { files_.push_back(std::move(path)); }
 
   /// The pointer is the arrow again, as for a program that has just started.

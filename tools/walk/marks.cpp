@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "board/grid_text.hpp"
+
 namespace sdk {
 
 void MarkedCells::draw(const Event& event) {
@@ -45,10 +47,6 @@ std::string MarkedCells::text() const {
   text += " 6=";
   append_names(text, second_);
   return text;
-}
-
-std::string name_of(Cell cell) {
-  return {'r', static_cast<char>('0' + cell.row), 'c', static_cast<char>('0' + cell.column)};
 }
 
 }  // namespace sdk

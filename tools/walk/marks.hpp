@@ -26,7 +26,4 @@ class MarkedCells {
   CellSet removed_, support_, second_;
 };
 
-/// "r1c1".
-std::string name_of(Cell cell);
-
 }  // namespace sdk

@@ -20,8 +20,7 @@ constexpr const char* usage =
 
 std::optional<std::string> answer_without_game(const ProgramArguments& arguments) {
   if (arguments == ProgramArguments{"--help"}) return usage;
-  if (arguments == ProgramArguments{"--version"})
-    return std::string("SuDoKu ") + program_version + '\n';
+  if (arguments == ProgramArguments{"--version"}) return std::string(program_title) + '\n';
   return std::nullopt;
 }
 

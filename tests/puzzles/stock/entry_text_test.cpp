@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "board/grid_text.hpp"
+
 namespace sdk::test {
 namespace {
 
@@ -35,12 +37,7 @@ TEST(MaskText, HasAOneForEachGivenRowByRow) {
 
 TEST(MaskText, OfAStoredPuzzlesGivensIsItsMask) {
   for (const LibraryEntry& entry : BibliothequeGrilles) {
-    Square<std::int16_t> givens;
-    const std::string text = puzzle_text(entry);
-    for (int k = 0; k < 81; ++k)
-      if (const char c = text[static_cast<std::size_t>(k)]; c != '.')
-        givens(k / 9 + 1, k % 9 + 1) = static_cast<std::int16_t>(c - '0');
-    EXPECT_EQ(mask_text(givens), entry.mask);
+    EXPECT_EQ(mask_text(puzzle_of(puzzle_text(entry))), entry.mask);
   }
 }
 

@@ -14,6 +14,7 @@
 #include <numeric>
 #include <set>
 
+#include "board/grid_text.hpp"
 #include "puzzles/stock/library_table.hpp"
 #include "tests/support/solution_counter.hpp"
 
@@ -49,15 +50,8 @@ Puzzle transformed(Puzzle puzzle, std::uint32_t seed) {
   return puzzle;
 }
 
-std::string solution_text(const Puzzle& puzzle) {
-  std::string text;
-  for (int k = 0; k < 81; ++k)
-    text += static_cast<char>('0' + puzzle.solution(k / 9 + 1, k % 9 + 1));
-  return text;
-}
-
 std::string puzzle_text(const Puzzle& puzzle) {
-  std::string text = solution_text(puzzle);
+  std::string text = digits_of(puzzle.solution);
   for (int k = 0; k < 81; ++k)
     if (!puzzle.mask(k / 9 + 1, k % 9 + 1)) text[static_cast<std::size_t>(k)] = '.';
   return text;
@@ -139,7 +133,7 @@ TEST(Transformer, MakesTheSameChangesAsThePlainRulesForEverySeed) {
 
 std::size_t unit_digit_pairs(const Puzzle& puzzle) {
   std::set<std::string> pairs;
-  const std::string text = solution_text(puzzle);
+  const std::string text = digits_of(puzzle.solution);
   for (std::size_t k = 0; k < 81; ++k) {
     pairs.insert({text[k], 'r', char('0' + k / 9)});
     pairs.insert({text[k], 'c', char('0' + k % 9)});

@@ -5,10 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
+#include "tests/support/files.hpp"
 #include "tests/support/tool.hpp"
 
 namespace sdk::test {
@@ -18,68 +15,61 @@ namespace fs = std::filesystem;
 
 class TranscriptRunner : public testing::Test {
  protected:
-  TranscriptRunner() {
-    std::string pattern = (fs::temp_directory_path() / "runner-test-XXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-    fs::create_directory(folder_ / "scratch");
-  }
-  ~TranscriptRunner() override { fs::remove_all(folder_); }
+  TranscriptRunner() { fs::create_directory(folder_ / "scratch"); }
 
   ToolRun play(const std::string& transcript, const std::string& options = "") {
-    std::ofstream(file()) << transcript;
+    write_file(file(), transcript);
     return run_tool("TMPDIR=" + (folder_ / "scratch").string() + " " RUN_TRANSCRIPT " " + options +
                     file().string());
   }
   fs::path file() const { return folder_ / "case.txt"; }
-  std::string transcript() const {
-    std::ifstream stream(file());
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
+  std::string transcript() const { return bytes_of(file()); }
   bool left_nothing_behind() const { return fs::is_empty(folder_ / "scratch"); }
 
  private:
-  fs::path folder_;
+  ScratchFolder folder_;
 };
 
-TEST_F(TranscriptRunner, accepts_a_transcript_that_says_what_is_printed) {
+TEST_F(TranscriptRunner, AcceptsATranscriptThatSaysWhatIsPrinted) {
   const ToolRun run = play("# A comment.\n\n> seed 1\n> show current\n  r9c9\n");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.output, "");
   EXPECT_TRUE(left_nothing_behind());
 }
 
-TEST_F(TranscriptRunner, refuses_another_output_and_shows_the_difference) {
+TEST_F(TranscriptRunner, RefusesAnotherOutputAndShowsTheDifference) {
   const ToolRun run = play("> seed 1\n> show current\n  r1c1\n> show Langue\n  \"Fr\"\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.output, "--- " + file().string() +
-                            " expects\n+++ the program prints\n@@ line 1 @@\n > seed 1\n"
+                            " expects\n+++ the program prints\n@@ -1,5 +1,5 @@\n > seed 1\n"
                             " > show current\n-  r1c1\n+  r9c9\n > show Langue\n   \"Fr\"\n");
   EXPECT_TRUE(left_nothing_behind());
 }
 
-TEST_F(TranscriptRunner, refuses_a_transcript_that_lacks_a_line_of_output) {
+TEST_F(TranscriptRunner, RefusesATranscriptThatLacksALineOfOutput) {
   const ToolRun run = play("> show current\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(run.output.find("+  r9c9\n"), std::string::npos) << run.output;
 }
 
-TEST_F(TranscriptRunner, refuses_a_transcript_that_expects_more_than_is_printed) {
+TEST_F(TranscriptRunner, RefusesATranscriptThatExpectsMoreThanIsPrinted) {
   const ToolRun run = play("> show current\n  r9c9\n  r9c9\n");
   EXPECT_EQ(run.status, 1);
   EXPECT_NE(run.output.find("-  r9c9\n"), std::string::npos) << run.output;
 }
 
-TEST_F(TranscriptRunner, shows_only_the_surroundings_of_a_difference) {
+TEST_F(TranscriptRunner, ShowsOnlyTheSurroundingsOfADifference) {
   std::string text;
   for (int i = 0; i < 20; ++i) text += "> show current\n  r9c9\n";
   const ToolRun run = play(text + "> show focus\n  MSR\n");
-  EXPECT_NE(run.output.find("@@ line 39 @@\n > show current\n   r9c9\n > show focus\n-  MSR\n"),
+  EXPECT_NE(run.output.find(
+                "@@ -39,4 +39,4 @@\n > show current\n   r9c9\n > show focus\n-  MSR\n+  MSF\n"),
             std::string::npos)
       << run.output;
-  EXPECT_EQ(run.output.find("@@ line 1 @@"), std::string::npos);
+  EXPECT_EQ(run.output.find("@@ -1,"), std::string::npos);
 }
 
-TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
+TEST_F(TranscriptRunner, RefusesMalformedTranscripts) {
   struct {
     const char *transcript, *fault;
   } const cases[] = {
@@ -98,7 +88,7 @@ TEST_F(TranscriptRunner, refuses_malformed_transcripts) {
   }
 }
 
-TEST_F(TranscriptRunner, puts_files_and_solvers_in_its_folders) {
+TEST_F(TranscriptRunner, PutsFilesAndSolversInItsFolders) {
   const std::string text =
       "= file <work>/a b.sdk \"1 \\r\\n\\t\\\"\\\\\"\n> show file <work>/a b.sdk\n"
       "  \"1 \\r\\n\\t\\\"\\\\\"\n= solver zero\n= solver empty_output\n"
@@ -109,7 +99,7 @@ TEST_F(TranscriptRunner, puts_files_and_solvers_in_its_folders) {
   EXPECT_EQ(play(transcript()).status, 0);
 }
 
-TEST_F(TranscriptRunner, refuses_malformed_preparations) {
+TEST_F(TranscriptRunner, RefusesMalformedPreparations) {
   for (const char* line :
        {"= ", "= file", "= file <work>/a", "= file <work>/a \"", "= file <work>/a \"x",
         "= file <work>/no/a \"x\"", "= solver", "= solver nobody", "= remove <work>/a"}) {
@@ -118,13 +108,13 @@ TEST_F(TranscriptRunner, refuses_malformed_preparations) {
   }
 }
 
-TEST_F(TranscriptRunner, refuses_a_file_that_is_not_there) {
+TEST_F(TranscriptRunner, RefusesAFileThatIsNotThere) {
   const ToolRun run = run_tool(RUN_TRANSCRIPT " /no/such/transcript.txt");
   EXPECT_EQ(run.status, 2);
   EXPECT_EQ(run.output, "/no/such/transcript.txt: cannot be read\n");
 }
 
-TEST_F(TranscriptRunner, rewrites_the_expected_output_and_nothing_else) {
+TEST_F(TranscriptRunner, RewritesTheExpectedOutputAndNothingElse) {
   const ToolRun run = play(
       "# Kept.\n\n> show current\n  r1c1\n  r1c2\n\n# Kept too.\n> show focus\n", "--rewrite ");
   EXPECT_EQ(run.status, 0);
@@ -133,12 +123,12 @@ TEST_F(TranscriptRunner, rewrites_the_expected_output_and_nothing_else) {
   EXPECT_EQ(play(transcript()).status, 0);
 }
 
-TEST_F(TranscriptRunner, leaves_a_malformed_transcript_as_it_is) {
+TEST_F(TranscriptRunner, LeavesAMalformedTranscriptAsItIs) {
   EXPECT_EQ(play("?? show current\n", "--rewrite ").status, 2);
   EXPECT_EQ(transcript(), "?? show current\n");
 }
 
-TEST_F(TranscriptRunner, names_its_folders_by_placeholders_in_commands_and_in_output) {
+TEST_F(TranscriptRunner, NamesItsFoldersByPlaceholdersInCommandsAndInOutput) {
   const ToolRun run = play(
       "> answer file <work>/a b.sdk\n> click sauve\n"
       "  dialog save \"Sudoku files (.sdk)|*.sdk|\" -> \"<work>/a b.sdk\"\n"
@@ -149,13 +139,13 @@ TEST_F(TranscriptRunner, names_its_folders_by_placeholders_in_commands_and_in_ou
   EXPECT_EQ(run.status, 0) << run.output;
 }
 
-TEST_F(TranscriptRunner, shows_standard_error_and_gives_every_run_fresh_folders) {
+TEST_F(TranscriptRunner, ShowsStandardErrorAndGivesEveryRunFreshFolders) {
   const std::string text =
       "> printer off\n> click Command4\n"
-      "  box critical \"SuDoKu 1.0.0\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
+      "  box critical \"<title>\" \"SuDoKu doit s'arrêter (printer: no default printer). La "
       "grille a été sauvée dans <data>/SuDoKu-1.sdk\" ok -> ok\n  ended 1\n"
-      "  (standard error) SuDoKu doit s'arrêter (printer: no default printer). La grille a "
-      "été sauvée dans <data>/SuDoKu-1.sdk\n";
+      "  (standard error) SuDoKu doit s'arrêter (printer: no default printer). La grille a été "
+      "sauvée dans <data>/SuDoKu-1.sdk\n";
   EXPECT_EQ(play(text).output, "");
   EXPECT_EQ(play(text).output, "");
   EXPECT_TRUE(left_nothing_behind());

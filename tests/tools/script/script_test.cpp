@@ -17,6 +17,7 @@
 #include "tools/script/keyboard.hpp"
 #include "tools/script/show.hpp"
 #include "tools/script/text_format.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 namespace {
@@ -42,7 +43,7 @@ class ScriptRun {
 /// A start on an empty grid whose cells all take digits.
 const char* const empty_grid = "seed 1\ncheck Check3 off\nclick Command2\n";
 
-TEST(Script, help_tells_every_command_and_everything_that_can_be_shown) {
+TEST(Script, HelpTellsEveryCommandAndEverythingThatCanBeShown) {
   const std::string help = help_text();
   for (const char* name : {"seed", "printer", "year", "program", "tmp", "click", "check", "level",
                            "select", "key", "answer", "at", "step", "close", "show"}) {
@@ -53,7 +54,7 @@ TEST(Script, help_tells_every_command_and_everything_that_can_be_shown) {
     EXPECT_NE(help.find("\n  " + std::string(topic.name)), help.npos) << topic.name;
 }
 
-TEST(Script, every_command_of_the_help_exists) {
+TEST(Script, EveryCommandOfTheHelpExists) {
   std::istringstream help(run_tool(SUDOKU_SCRIPT " --help").output);
   std::string line;
   while (std::getline(help, line) && line != "Commands") continue;
@@ -69,7 +70,7 @@ TEST(Script, every_command_of_the_help_exists) {
   EXPECT_EQ(commands_told, 20);
 }
 
-TEST(Script, everything_that_the_help_names_can_be_shown) {
+TEST(Script, EverythingThatTheHelpNamesCanBeShown) {
   ScriptRun run;
   for (const Topic& topic : topics()) {
     std::string command = "show " + std::string(topic.name);
@@ -82,7 +83,7 @@ TEST(Script, everything_that_the_help_names_can_be_shown) {
   }
 }
 
-TEST(Script, the_settings_and_comments_do_not_start_the_program) {
+TEST(Script, TheSettingsAndCommentsDoNotStartTheProgram) {
   ScriptRun run;
   EXPECT_EQ(run.play("# nothing\n\n   \nseed 1\nprinter on\nyear 2026\nprogram /\ntmp /tmp\n"), "");
   EXPECT_FALSE(run.script.running());
@@ -90,24 +91,24 @@ TEST(Script, the_settings_and_comments_do_not_start_the_program) {
   EXPECT_TRUE(run.script.running());
 }
 
-TEST(Script, a_sharp_starts_a_comment_but_not_inside_a_word) {
+TEST(Script, ASharpStartsACommentButNotInsideAWord) {
   EXPECT_EQ(ScriptRun().play("show focus # where\n  # only a comment\nshow file a#b\n"),
             "MSF\nerror: cannot read a#b\n");
 }
 
-TEST(Script, a_fault_is_printed_and_the_run_goes_on) {
+TEST(Script, AFaultIsPrintedAndTheRunGoesOn) {
   const ToolRun run = run_tool("printf 'bad\\nshow focus\\n' | " SUDOKU_SCRIPT);
   EXPECT_EQ(run.output, "error: unknown command: bad\nMSF\n");
   EXPECT_EQ(run.status, 2);
 }
 
-TEST(Script, the_status_is_0_without_a_fault_and_2_for_an_option_that_does_not_exist) {
+TEST(Script, TheStatusIs0WithoutAFaultAnd2ForAnOptionThatDoesNotExist) {
   EXPECT_EQ(run_tool("printf 'show focus\\n' | " SUDOKU_SCRIPT).status, 0);
   EXPECT_EQ(run_tool(SUDOKU_SCRIPT " --help").status, 0);
   EXPECT_EQ(run_tool(SUDOKU_SCRIPT " --walk").status, 2);
 }
 
-TEST(Script, malformed_commands_are_faults) {
+TEST(Script, MalformedCommandsAreFaults) {
   for (const char* line : {"seed",
                            "seed -1",
                            "seed 4294967296",
@@ -149,6 +150,10 @@ TEST(Script, malformed_commands_are_faults) {
                            "answer",
                            "answer maybe",
                            "answer file",
+                           "answer yes 0",
+                           "answer yes 1000",
+                           "answer no x",
+                           "answer yes 1 2",
                            "at",
                            "at 1",
                            "at 0 key 1",
@@ -186,30 +191,31 @@ TEST(Script, malformed_commands_are_faults) {
   }
 }
 
-TEST(Script, after_the_end_every_command_but_comments_is_a_fault) {
+TEST(Script, AfterTheEndEveryCommandButCommentsIsAFault) {
   ScriptRun run;
   EXPECT_EQ(run.play("close session\n# comment\n\nshow focus\nseed 1\n"),
             "ended 0\nerror: the program has ended\nerror: the program has ended\n");
   EXPECT_FALSE(run.script.running());
 }
 
-TEST(Script, without_a_seed_two_quick_puzzles_differ) {
+TEST(Script, WithoutASeedTwoQuickPuzzlesDiffer) {
   ScriptRun run;
   std::set<std::string> puzzles;
   for (int i = 0; i < 20; ++i) puzzles.insert(run.play("click Command1\nshow ChaineSolution"));
   EXPECT_EQ(puzzles.size(), 20u);
 }
 
-TEST(Script, an_event_happens_at_its_step_of_the_next_search) {
+TEST(Script, AnEventHappensAtItsStepOfTheNextSearch) {
   ScriptRun run;
   run.play(empty_grid);
   EXPECT_EQ(run.play("at 1 show NumCase\nat 2 show NumCase\nat 4 show NumCase\n"
                      "at 4 key Escape\nclick Bouton_GO"),
-            "pointer hourglass\n1\n2\n3\nbox critical \"SuDoKu 1.0.0\" \"Résolution interrompu!\" "
-            "ok -> ok\npointer arrow\n");
+            std::string("pointer hourglass\n1\n2\n3\nbox critical \"") + program_title +
+                "\" \"Résolution interrompu!\" "
+                "ok -> ok\npointer arrow\n");
 }
 
-TEST(Script, events_of_one_step_happen_in_the_order_in_which_they_were_queued) {
+TEST(Script, EventsOfOneStepHappenInTheOrderInWhichTheyWereQueued) {
   ScriptRun run;
   run.play(empty_grid);
   const std::string printed =
@@ -217,7 +223,7 @@ TEST(Script, events_of_one_step_happen_in_the_order_in_which_they_were_queued) {
   EXPECT_NE(printed.find("2\n-1\n"), printed.npos) << printed;
 }
 
-TEST(Script, an_event_that_its_search_did_not_reach_is_dropped) {
+TEST(Script, AnEventThatItsSearchDidNotReachIsDropped) {
   ScriptRun run;
   run.play(empty_grid);
   run.play("at 100 show focus\nat 5 key Escape\nclick Bouton_GO");
@@ -225,14 +231,14 @@ TEST(Script, an_event_that_its_search_did_not_reach_is_dropped) {
   EXPECT_EQ(printed.find("MSF"), printed.npos) << printed;
 }
 
-TEST(Script, events_wait_for_a_search_whatever_is_done_before) {
+TEST(Script, EventsWaitForASearchWhateverIsDoneBefore) {
   ScriptRun run;
   run.play(empty_grid);
   EXPECT_EQ(run.play("at 5 key Escape\nselect 1 1\nkey Right\n"), "");
   EXPECT_NE(run.play("click Bouton_GO").find("interrompu"), std::string::npos);
 }
 
-TEST(Script, a_nested_search_counts_its_own_steps) {
+TEST(Script, ANestedSearchCountsItsOwnSteps) {
   ScriptRun run;
   run.play(empty_grid);
   const std::string printed = run.play(
@@ -242,7 +248,7 @@ TEST(Script, a_nested_search_counts_its_own_steps) {
   EXPECT_EQ(printed.find("MSF"), printed.npos) << "the outer search is stopped as well";
 }
 
-TEST(Script, a_step_goes_on_after_the_search_that_it_started) {
+TEST(Script, AStepGoesOnAfterTheSearchThatItStarted) {
   ScriptRun run;
   run.play(empty_grid);
   const std::string printed =
@@ -250,7 +256,7 @@ TEST(Script, a_step_goes_on_after_the_search_that_it_started) {
   EXPECT_NE(printed.find("terminée!!\" ok -> ok\n82\nMSF\nbox"), printed.npos) << printed;
 }
 
-TEST(Script, a_look_happens_at_the_next_question_only_in_the_order_in_which_it_was_queued) {
+TEST(Script, ALookHappensAtTheNextQuestionOnlyInTheOrderInWhichItWasQueued) {
   ScriptRun run;
   run.play("seed 1\nat question show focus\nat question show Langue");
   EXPECT_EQ(run.play("click Command2\nclick Command5\nabout key 1").find("MSF"), std::string::npos)
@@ -259,7 +265,16 @@ TEST(Script, a_look_happens_at_the_next_question_only_in_the_order_in_which_it_w
   EXPECT_TRUE(run.play("close window").starts_with("box question"));
 }
 
-TEST(Script, a_look_can_be_queued_during_a_search) {
+TEST(Script, AnAnswerCanBeQueuedForSeveralQuestions) {
+  ScriptRun run;
+  run.play("seed 1\nanswer no 2");
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(run.play("close window").ends_with("-> no\n"));
+  run.play("answer no 2\nanswer yes\nclose window\nclose window");
+  EXPECT_TRUE(run.script.running());
+  EXPECT_TRUE(run.play("close window").ends_with("-> yes\nended 0\n"));
+}
+
+TEST(Script, ALookCanBeQueuedDuringASearch) {
   ScriptRun run;
   run.play("seed 1");
   const std::string printed =
@@ -267,11 +282,10 @@ TEST(Script, a_look_can_be_queued_during_a_search) {
   EXPECT_NE(printed.find("\n1\nbox question"), printed.npos) << printed;
 }
 
-TEST(Script, a_chosen_step_is_shown_as_a_drawn_board) {
+TEST(Script, AChosenStepIsShownAsADrawnBoard) {
   ScriptRun run;
   run.play("seed 4\nlevel 3\nclick Command1");
-  for (int i = 0; i < 6; ++i) run.play("answer yes");
-  run.play("click Command8\nstep 3");
+  run.play("answer yes 6\nclick Command8\nstep 3");
   std::istringstream words(run.play("show step"));
   const StepPicture picture = run.script.window().explanation().picture().value();
   int cell = 0;
@@ -286,7 +300,7 @@ TEST(Script, a_chosen_step_is_shown_as_a_drawn_board) {
   EXPECT_EQ(cell, 81);
 }
 
-TEST(Script, a_standing_event_happens_in_every_search_last_of_its_step) {
+TEST(Script, AStandingEventHappensInEverySearchLastOfItsStep) {
   ScriptRun run;
   run.play(empty_grid);
   run.script.schedule().add_to_every_search(
@@ -296,21 +310,19 @@ TEST(Script, a_standing_event_happens_in_every_search_last_of_its_step) {
               std::string::npos);
 }
 
-TEST(Script, texts_are_quoted_and_escaped) {
+TEST(Script, TextsAreQuotedAndEscaped) {
   EXPECT_EQ(in_quotes("a\tb\r\nc\"d\\é"), "\"a\\tb\\r\\nc\\\"d\\\\é\"");
   EXPECT_EQ(in_quotes(""), "\"\"");
 }
 
-TEST(Script, texts_of_the_code_page_are_printed_in_utf_8) {
-  EXPECT_EQ(from_code_page("a\xE9\xFF"), "aéÿ");
-}
+TEST(Script, TextsOfTheCodePageArePrintedInUtf8) { EXPECT_EQ(from_code_page("a\xE9\xFF"), "aéÿ"); }
 
-TEST(Script, colours_are_printed_red_first) {
+TEST(Script, ColoursArePrintedRedFirst) {
   EXPECT_EQ(colour_text(colour::red), "FF0000");
   EXPECT_EQ(colour_text(colour::level[2]), "FFE0C0");
 }
 
-TEST(Script, coordinates_are_printed_without_trailing_zeros) {
+TEST(Script, CoordinatesArePrintedWithoutTrailingZeros) {
   EXPECT_EQ(decimal(935.5f), "935.5");
   EXPECT_EQ(decimal(2340), "2340");
   EXPECT_EQ(decimal(-10.25f), "-10.25");
@@ -318,7 +330,7 @@ TEST(Script, coordinates_are_printed_without_trailing_zeros) {
   EXPECT_EQ(decimal(16777216), "16777216");
 }
 
-TEST(Script, every_key_has_the_code_of_the_window) {
+TEST(Script, EveryKeyHasTheCodeOfTheWindow) {
   struct {
     const char* name;
     int code;

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "board/cells.hpp"
+#include "board/grid_text.hpp"
 #include "puzzles/stock/entry_text.hpp"
 #include "tests/support/tool.hpp"
 #include "tools/walk/walk.hpp"
@@ -88,8 +89,7 @@ void replace_all(std::string& text, std::string_view part, std::string_view by) 
 /// The line with R for a cell, d for digits, and lists cut down to one item.
 std::string skeleton(std::string line) {
   for (int number = 1; number <= 81; ++number) {
-    const auto [row, column] = cell_at(number);
-    replace_all(line, "r" + std::to_string(row) + "c" + std::to_string(column), "R");
+    replace_all(line, name_of(cell_at(number)), "R");
   }
   for (char& c : line)
     if (c >= '1' && c <= '9') c = 'd';

@@ -7,30 +7,23 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "grids.hpp"
+#include "tests/support/files.hpp"
 
 namespace zolv {
 namespace {
 
 namespace fs = std::filesystem;
+using sdk::test::bytes_of;
 
 constexpr std::string_view puzzle =
     "000000000000900000602038000026070080700002100008000040001805000209003005050009607";
 constexpr std::string_view solved =
     "987654321135927468642138579426571983793482156518396742371865294269743815854219637";
-
-std::string contents(const fs::path& path) {
-  std::ostringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
-}
 
 /// As the game writes it: every cell followed by a blank, no line end.
 std::string exchange_text(std::string_view cells) {
@@ -47,11 +40,8 @@ class Exchange : public testing::Test {
   };
 
   void SetUp() override { fs::create_directories(folder_); }
-  void TearDown() override { fs::remove_all(root_); }
 
-  void write(const std::string& text) const {
-    std::ofstream(folder_ / "00000.000", std::ios::binary) << text;
-  }
+  void write(const std::string& text) const { sdk::test::write_file(folder_ / "00000.000", text); }
 
   Result run() const {
     setenv("tmp", folder_.c_str(), 1);
@@ -63,7 +53,7 @@ class Exchange : public testing::Test {
     const std::string command =
         "\"" ZOLV_PROGRAM "\" > \"" + output.string() + "\" 2> \"" + errors.string() + "\"";
     const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(output), contents(errors)};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytes_of(output), bytes_of(errors)};
   }
 
   void expect_refused(const std::string& text) const {
@@ -76,7 +66,7 @@ class Exchange : public testing::Test {
     EXPECT_NE(result.errors.find("not 81 cells"), std::string::npos) << result.errors;
   }
 
-  const fs::path root_ = fs::temp_directory_path() / ("zolv test " + std::to_string(getpid()));
+  const sdk::test::ScratchFolder root_;
   const fs::path folder_ = root_ / "a player's folder";
 };
 
@@ -91,7 +81,7 @@ TEST_F(Exchange, PrintsTheSolutionAsOneLineOf81Digits) {
 TEST_F(Exchange, LeavesTheExchangeFileAsItWas) {
   write(exchange_text(puzzle));
   run();
-  EXPECT_EQ(contents(folder_ / "00000.000"), exchange_text(puzzle));
+  EXPECT_EQ(bytes_of(folder_ / "00000.000"), exchange_text(puzzle));
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
 }
 

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <ctime>
 
 #include "grids.hpp"
+#include "tests/support/wanted_count.hpp"
 
 namespace zolv {
 namespace {
@@ -155,15 +155,11 @@ TEST(Solver, AgreesWithAPlainSearchOnRandomGridsWithAChangedDigit) {
   EXPECT_GT(unsolvable, 20);
 }
 
-/// As many as SEVERAL_SOLUTIONS says, else 100.
-int wanted_comparisons() {
-  const char* wanted = std::getenv("SEVERAL_SOLUTIONS");
-  return wanted ? std::atoi(wanted) : 100;
-}
-
+/// SEVERAL_SOLUTIONS in the environment says how many are compared.
 TEST(Solver, AnswersAsThePlainSearchWhereThereAreSeveralSolutions) {
   std::mt19937 random(3);
-  for (int compared = 0; compared < wanted_comparisons();) {
+  const int wanted = sdk::test::wanted_count("SEVERAL_SOLUTIONS", 100);
+  for (int compared = 0; compared < wanted;) {
     const Grid givens = random_puzzle(random, 24 + static_cast<int>(random() % 12));
     Grid plain = givens;
     if (count_solutions(plain, 2) < 2) continue;

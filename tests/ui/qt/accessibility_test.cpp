@@ -28,7 +28,7 @@ struct ControlRow {
 };
 
 constexpr ControlRow control_rows[] = {
-    {"sudoku", QAccessible::Window, "", "SuDoKu " PROGRAM_VERSION, "SuDoKu " PROGRAM_VERSION},
+    {"sudoku", QAccessible::Window, "", program_title, program_title},
     {"commands", QAccessible::ToolBar, "", "Commandes", "Commands"},
     {"Label3", QAccessible::StaticText, "read-only", " proposé par l'équipe SuDoKu",
      " proposed by the SuDoKu team"},
@@ -292,8 +292,8 @@ class AccessibilityTest : public QObject {
     play_->click("Command3");
     const Told alert = alert_told();
     QCOMPARE(alert.role, QAccessible::AlertMessage);
-    QCOMPARE(alert.name, "SuDoKu " PROGRAM_VERSION);
-    QCOMPARE(alert.value, "Voulez-vous vraiment quitter SuDoKu " PROGRAM_VERSION "? ");
+    QCOMPARE(alert.name, program_title);
+    QCOMPARE(alert.value, QString("Voulez-vous vraiment quitter %1? ").arg(program_title));
     QStringList buttons = reader_->names(QAccessible::ObjectShow, QAccessible::Button);
     buttons.sort();
     QCOMPARE(buttons, (QStringList{"Non", "Oui"}));
@@ -315,8 +315,7 @@ class AccessibilityTest : public QObject {
              QStringList{"Japonaise au chapeau par l'équipe SuDoKu"});
     QCOMPARE(names_of(tree, QAccessible::Link), QStringList{"l'équipe SuDoKu"});
     QCOMPARE(names_of(tree, QAccessible::StaticText),
-             (QStringList{"Japonaise au chapeau par l'équipe SuDoKu", "SuDoKu " PROGRAM_VERSION,
-                          "Auteur",
+             (QStringList{"Japonaise au chapeau par l'équipe SuDoKu", program_title, "Auteur",
                           QString("Copyright © l'équipe SuDoKu %1").arg(play_->desktop.year())}));
   }
 

@@ -12,6 +12,7 @@
 
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/icons.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 
@@ -76,10 +77,10 @@ class DialogLooksTest : public QObject {
   }
 
   void a_box_of_few_words_leaves_its_title_room() {
-    QMessageBox box(QMessageBox::NoIcon, "SuDoKu 1.0.0", "9", QMessageBox::Ok);
+    QMessageBox box(QMessageBox::NoIcon, program_title, "9", QMessageBox::Ok);
     fit_title(box);
     box.adjustSize();
-    QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance("SuDoKu 1.0.0") + 150);
+    QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance(program_title) + 150);
   }
 
   void buttons_have_no_pictures() {

@@ -6,6 +6,7 @@
 
 #include "tests/ui/qt/play.hpp"
 #include "ui/state_check.hpp"
+#include "ui/version.hpp"
 
 namespace sdk::test {
 
@@ -29,8 +30,8 @@ class EndingTest : public QObject {
   void no_to_the_quit_question_goes_on() {
     BoxAnswer no(QMessageBox::No);
     QCOMPARE(play_->run_program([this] { play_->click("Command3"); }), -1);
-    QCOMPARE(no.box().text, "Voulez-vous vraiment quitter SuDoKu " PROGRAM_VERSION "? ");
-    QCOMPARE(no.box().title, "SuDoKu " PROGRAM_VERSION);
+    QCOMPARE(no.box().text, QString("Voulez-vous vraiment quitter %1? ").arg(program_title));
+    QCOMPARE(no.box().title, program_title);
     QVERIFY(!play_->guard.status());
     QVERIFY(play_->frame.isVisible());
   }
@@ -103,9 +104,13 @@ class EndingTest : public QObject {
   }
 
   void nothing_runs_after_the_end() {
+    play_->draw(endless_grid);
+    play_->click_cell(1, 1);
     BoxAnswer yes(QMessageBox::Yes);
     play_->run_program([this] { play_->frame.close(); });
     const auto before = play_->window.MSF.text(0, 0);
+    play_->type("5");
+    QCOMPARE(play_->window.MSF.text(0, 0), before);
     int runs = 0;
     play_->guard.run([&] { ++runs; });
     QCOMPARE(runs, 0);

@@ -55,7 +55,7 @@ class HomeTest : public QObject {
     QProcess program;
     program.setProcessEnvironment(environment);
     program.start(SUDOKU_PROGRAM, {});
-    const bool ended = program.waitForFinished(60'000);
+    const bool ended = program.waitForFinished(20'000);
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
   }
 

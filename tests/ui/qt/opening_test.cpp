@@ -124,7 +124,7 @@ class OpeningTest : public QObject {
   }
 
   void help_and_version_alone_are_answered_without_a_display() {
-    QCOMPARE(output_of({"--version"}), "SuDoKu " PROGRAM_VERSION "\n");
+    QCOMPARE(output_of({"--version"}), "SuDoKu " PROJECT_VERSION "\n");
     QVERIFY(output_of({"--help"}).startsWith("usage: sudoku [PUZZLE.sdk]\n"));
   }
 
