@@ -14,9 +14,9 @@ namespace sdk {
 
 namespace {
 
-template <class Part>
-Part* make_part(const char* name, QWidget* parent) {
-  auto* part = new Part(parent);
+template <class Part, class... Shown>
+Part* make_part(const char* name, QWidget* parent, Shown&... shown) {
+  auto* part = new Part(shown..., parent);
   part->setObjectName(name);
   return part;
 }
@@ -56,7 +56,7 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
                      {candidates_font_size, false, StepLook::cells, false}, this)),
       options_(make_part<OptionBar>("options", this)),
       explanation_(make_part<ExplanationPanel>("explanation", this)),
-      lines_(new LineOverlay(window, this)),
+      lines_(make_part<LineOverlay>("lines", this, window)),
       small_screen_(*this),
       gate_(*this, *explanation_),
       stopper_(window, guard),
@@ -65,7 +65,6 @@ MainFrame::MainFrame(MainWindow& window, ProgramGuard& guard)
       long_search_([this] { update_explanation_.ask(); }) {
   install_accessible_roles();
   setObjectName("sudoku");
-  lines_->setObjectName("lines");
   connect_bars();
   connect_grids();
   make_menu();
