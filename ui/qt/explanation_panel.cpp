@@ -92,8 +92,8 @@ void ExplanationPanel::show_state(const Explanation& explanation, bool searching
 
 void ExplanationPanel::show_search(bool searching) {
   const bool begins = searching && !search_->isVisible();
-  search_->setText(notice_text(Notice::searching));
   search_->setVisible(searching);
+  if (searching) search_->setText(notice_text(Notice::searching));
   if (!begins) return;
   QAccessibleEvent event(search_, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
