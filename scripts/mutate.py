@@ -32,6 +32,7 @@ def arguments():
     parser.add_argument("--count", type=int, default=200, help="how many mutants (200)")
     parser.add_argument("--folder", choices=FOLDERS, metavar="FOLDER",
                         help="only there and below: " + ", ".join(FOLDERS))
+    parser.add_argument("--at", metavar="FILE:LINE", help="every mutation of one line")
     parser.add_argument("--jobs", type=int, default=2, help="how many at a time, each in its copy (2)")
     parser.add_argument("--time-limit", type=float, default=10, metavar="SECONDS",
                         help="a test may take five times its usual time and this (10)")
@@ -49,6 +50,13 @@ def head_commit():
 def product_texts():
     return {file: content.decode() for file, (content, _) in committed_files(ROOT).items()
             if is_product(file, None)}
+
+
+def chosen_by(options):
+    mutations = all_mutations(product_texts(), options.folder)
+    if options.at:
+        return [one for one in mutations if f"{one.file}:{one.line}" == options.at]
+    return choose(mutations, options.seed, options.count)
 
 
 class Run:
@@ -118,7 +126,7 @@ def report(results, start):
 
 def main():
     options, start = arguments(), time.monotonic()
-    chosen = choose(all_mutations(product_texts(), options.folder), options.seed, options.count)
+    chosen = chosen_by(options)
     if options.list:
         return list_choice(chosen)
     subprocess.run([ROOT / "scripts/setup.sh", "play", "test", "mutate"], check=True)
