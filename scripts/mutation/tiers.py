@@ -88,8 +88,9 @@ class Tiers:
         """Runs all of them, which must pass, and notes how long each takes."""
         for group in self.groups:
             start = time.monotonic()
-            if self._run(group, 600) != 0:
-                raise NotGreen(f"{group.name} fails without a mutation: {' '.join(group.command)}")
+            status, output = self._run(group, 600)
+            if status != 0:
+                raise NotGreen(f"{group.name} fails without a mutation:\n{output[-2000:]}")
             group.seconds = time.monotonic() - start
 
     def _run(self, group, seconds):
@@ -115,7 +116,7 @@ class Tiers:
         program that it needs is another one than without a mutation."""
         for group in groups:
             if self._is_changed(group):
-                status = self._run(group, self._time_limit + PATIENCE * group.seconds)
+                status, _ = self._run(group, self._time_limit + PATIENCE * group.seconds)
                 if status != 0:
                     return group.name + ("" if status is not None else " (time)")
         return ""

@@ -55,7 +55,7 @@ class Tree:
         folder = str(self._sandbox)
         kept = {name: value for name, value in os.environ.items()
                 if name not in {"DISPLAY", "WAYLAND_DISPLAY"}}
-        return kept | {"HOME": folder, "TMPDIR": folder, "XDG_RUNTIME_DIR": folder,
+        return kept | {"HOME": folder, "TMPDIR": folder, "XDG_RUNTIME_DIR": f"{folder}/run",
                        "QT_QPA_PLATFORM": "offscreen"}
 
     def _build_environment(self):
@@ -76,11 +76,12 @@ class Tree:
         self._run(["ninja", "-C", str(self.build), f"-j{jobs}", *targets], seconds)
 
     def run_test(self, command, seconds, folder, environment):
-        """The exit status, None when the time was over."""
+        """The exit status, None when the time was over, and what was printed."""
         self._processes.run(["rm", "-rf", str(self._sandbox)], None)
-        self._sandbox.mkdir(mode=0o700)
+        self._sandbox.mkdir()
+        (self._sandbox / "run").mkdir(mode=0o700)
         return self._processes.run(command, seconds, cwd=folder,
-                                   env=self.environment() | environment)[0]
+                                   env=self.environment() | environment)
 
     def programs_of(self, target):
         """The programs that a target is built from or needs beside it, itself among them."""
