@@ -4,6 +4,7 @@
 """The tests of the tiers quick and window, a process for all that one program tests."""
 
 import collections
+import itertools
 import json
 import subprocess
 import time
@@ -105,13 +106,16 @@ class Tiers:
 
     def stages(self, file):
         """Those of the file's folder first, then the other quick ones, the window, and the guides,
-        which take longest to build; in each stage the short ones first."""
+        which take longest to build; in each stage the short ones first. Of a header, which many
+        programs are built from, each is a stage of its own."""
         own = self._of_folder(Path(file).parent)
 
-        def stage(group):
+        def rank(group):
             return 0 if group in own else 3 if group.makes_guides else 1 + (group.tier == "window")
-        ordered = sorted(self.groups, key=lambda group: group.seconds)
-        return [[group for group in ordered if stage(group) == number] for number in range(4)]
+        ordered = sorted(self.groups, key=lambda group: (rank(group), group.seconds))
+        if file.endswith(".hpp"):
+            return [[group] for group in ordered]
+        return [list(stage) for _, stage in itertools.groupby(ordered, key=rank)]
 
     def _of_folder(self, folder):
         """The tests of the folder, of the nearest above it that has some."""
