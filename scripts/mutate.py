@@ -8,6 +8,7 @@ carried on by the same command."""
 
 import argparse
 import queue
+import signal
 import subprocess
 import sys
 import threading
@@ -133,6 +134,7 @@ def main():
     options.place.mkdir(parents=True, exist_ok=True)
     results = Results(options.place / f"results-{head_commit()}.jsonl")
     run = Run(options, chosen, results)
+    signal.signal(signal.SIGTERM, signal.default_int_handler)  # ends as Ctrl+C does
     try:
         run.run()
     except KeyboardInterrupt:
