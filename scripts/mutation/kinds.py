@@ -169,17 +169,19 @@ def return_nothing(source):
 def head_of(source, body):
     """The name of the function whose body is the block at `body`, -1 when it is none."""
     i = body - 1
-    while i > 0 and source.at(i) not in {")", ";", "{"}:
+    while i > 0 and source.at(i) not in {")", "}", ";", "{"}:
         i -= 1
-    if source.at(i) != ")":
-        return -1
-    name = source.partner[i] - 1
-    return name if source.token(name).kind == "name" and source.at(name) not in NO_CALLS else -1
+    while source.at(i) in {")", "}"}:
+        name = source.partner.get(i, 0) - 1
+        if source.at(name - 1) not in {",", ":"}:  # what a constructor sets first stands before it
+            return name if source.token(name).kind == "name" and source.at(name) not in NO_CALLS else -1
+        i = name - 2
+    return -1
 
 
 def words_before(source, name):
     """What stands before the name of a function, without the class it belongs to."""
-    i = name
+    i = name - (source.at(name - 1) == "~")
     while source.at(i - 1) == "::":
         i -= 2
     words = []

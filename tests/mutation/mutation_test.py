@@ -109,6 +109,13 @@ class Kinds(unittest.TestCase):
             "for (int i = 0; i < 9; ++i) box.fill([&](int a) { use({}); });",
         ])
 
+    def test_constructors_return_early(self):
+        text = "Box::Box(int a) : Base(a), side_{a} { f(); }\nBox::~Box() { g(); }\n"
+        self.assertEqual(mutants("return early", text), [
+            (1, "Box::Box(int a) : Base(a), side_{a} { return; f(); }"),
+            (2, "Box::~Box() { return; g(); }"),
+        ])
+
     def test_functions_return_early_or_nothing(self):
         self.assertEqual(mutants("return early"), [
             (6, "void Box::empty() { return;"),
