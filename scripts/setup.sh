@@ -4,6 +4,7 @@
 
 # Installs the system packages that are missing for what is to be done.
 #   scripts/setup.sh SET...    with SET one of: play picture test bench check package keyboards fresh-root fuzz
+#                                       mutate coverage
 # With everything there it only asks the package database, and changes nothing.
 # SUDOKU_SETUP=skip leaves the packages to you.
 set -euo pipefail
@@ -13,7 +14,7 @@ packages_for() {
     play) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev \
       qt6-translations-l10n nlohmann-json3-dev libcli11-dev ;;
     picture) echo xvfb netpbm ;;
-    test) echo libgtest-dev qt6-base-private-dev universal-ctags ;;
+    test) echo libgtest-dev qt6-base-private-dev universal-ctags python3 ;;
     bench) echo libbenchmark-dev xvfb ;;
     check) echo clang-format universal-ctags ;;
     package) echo dpkg-dev file lintian desktop-file-utils appstream shared-mime-info \
@@ -21,6 +22,8 @@ packages_for() {
     keyboards) echo xvfb xdotool xclip x11-xkb-utils xkb-data ;;
     fresh-root) echo debootstrap ;;
     fuzz) echo clang libclang-rt-dev ;;
+    mutate) echo mold ccache python3 ;;
+    coverage) echo gcovr ;;
     *) echo "scripts/setup.sh: no set of packages is called $1" >&2 && return 1 ;;
   esac
 }

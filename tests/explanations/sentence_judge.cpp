@@ -87,6 +87,12 @@ bool is_well_set(const std::string& sentence, std::string_view language) {
   return !std::regex_search(sentence, language == "Fr" ? badly_set : badly_set_in_english);
 }
 
+/// Rows, columns, boxes, cells and digits are counted from 1, so what a finder forgot to name is 0.
+bool names_nothing(const std::string& sentence) {
+  static const std::regex zero("(^|[^1-9])0");
+  return std::regex_search(sentence, zero);
+}
+
 /// The chains of a colouring and many pincers are as long as they are, and so is the list of what
 /// is removed; what is said of doubts does not count.
 bool is_short(const Deduction& deduction, const std::string& sentence) {
@@ -115,6 +121,7 @@ std::vector<std::string> faults(const std::deque<Event>& hint, std::size_t index
   judge_single(told);
   judge_doubts(told);
   told.expect(claims.removed == told.deduction().removed, "other removals");
+  told.expect(!names_nothing(sentence), "a name of nothing");
   told.expect(is_well_set(sentence, language), "badly set");
   told.expect(is_short(hint[index].deduction, sentence), "too long");
   return told.faults;

@@ -62,6 +62,18 @@ class FileDialogsTest : public QObject {
       QCOMPARE(start_of(button), at("Documents"));
   }
 
+  void the_dialogs_are_those_that_speak_the_language_of_the_game() {
+    for (const char* button : {"Command6", "sauve", "Command4"}) {
+      bool is_own = false;
+      in_file_dialog([&](QFileDialog& dialog) {
+        is_own = dialog.testOption(QFileDialog::DontUseNativeDialog);
+        dialog.reject();
+      });
+      play_->click(button);
+      QVERIFY2(is_own, button);
+    }
+  }
+
   void without_documents_it_shows_the_home_folder() {
     QVERIFY(QDir(at("Documents")).removeRecursively());
     QCOMPARE(start_of("sauve"), home_->path());

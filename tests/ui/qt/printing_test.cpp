@@ -70,6 +70,22 @@ class PrintingTest : public QObject {
     QVERIFY(is_black(left - 10 + 7020, top + 400));
   }
 
+  void a_wrong_digit_changes_nothing_but_its_cell() {
+    play_->draw(
+        "1........\n.........\n.........\n.........\n.........\n"
+        ".........\n.........\n.........\n.........");
+    const QImage before = painted(page());
+    play_->click_cell(1, 2);
+    play_->type("1");
+    QVERIFY(play_->window.MSF.cell(0, 1).is_wrong());
+    QImage after = painted(page());
+    QVERIFY(after != before);
+    const QPoint cell(static_cast<int>((a4.width - 10035) / 2 + 780) / 10,
+                      (a4.height - 10170) / 20);
+    QPainter(&after).drawImage(cell, before, QRect(cell, QSize(78, 78)));
+    QCOMPARE(after, before);
+  }
+
   void a_pdf_has_one_portrait_page() {
     QBuffer file;
     file.open(QIODevice::WriteOnly);

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// How the buttons above the grids stand and look.
+
+#include <QToolButton>
+
+#include "tests/ui/qt/play.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+constexpr const char* row[] = {"Command1", "Command6",  "sauve",    "Command4", "Command8",
+                               "Command7", "Bouton_GO", "Command2", "undo",     "redo",
+                               "aide",     "Command5",  "Command3"};
+
+bool starts_group(const QString& name) { return name == "Command8" || name == "aide"; }
+
+}  // namespace
+
+class ButtonRowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { play_.emplace(); }
+  void cleanup() { play_.reset(); }
+
+  void the_buttons_of_a_group_stand_close_and_the_groups_apart() {
+    for (std::size_t i = 1; i < std::size(row); ++i) {
+      const int gap = play_->find(row[i]).x() - play_->find(row[i - 1]).geometry().right() - 1;
+      if (starts_group(row[i]))
+        QVERIFY2(gap > 10, row[i]);
+      else
+        QCOMPARE(gap, 2);
+    }
+  }
+
+  void the_groups_share_what_is_left_of_the_row() {
+    const QWidget& bar = play_->find("commands");
+    QCOMPARE(play_->find("Command1").x(), 0);
+    QCOMPARE(play_->find("Command3").geometry().right(), bar.width() - 1);
+    const int before_hint = play_->find("Command8").x() - play_->find("Command4").x();
+    const int before_help = play_->find("aide").x() - play_->find("redo").x();
+    QVERIFY(std::abs(before_hint - before_help) <= 1);
+  }
+
+  void a_button_is_a_flat_square_around_its_icon() {
+    for (const char* name : row) {
+      const auto& button = play_->find<QToolButton>(name);
+      QCOMPARE(button.size(), QSize(44, 44));
+      QCOMPARE(button.iconSize(), QSize(28, 28));
+      QVERIFY2(button.autoRaise(), name);
+      QCOMPARE(button.icon().pixmap(28, 28).size(), QSize(28, 28));
+    }
+  }
+
+  void no_two_buttons_look_alike() {
+    QList<QImage> pictures;
+    for (const char* name : row) {
+      const QImage picture = play_->find<QToolButton>(name).icon().pixmap(28, 28).toImage();
+      QVERIFY2(!pictures.contains(picture), name);
+      pictures << picture;
+    }
+  }
+
+  void the_title_stands_above_the_buttons() {
+    const QWidget& title = play_->find("Label3");
+    QVERIFY(title.geometry().bottom() < play_->find("Command1").y());
+    QCOMPARE(title.pos(), QPoint(0, 0));
+  }
+
+ private:
+  std::optional<Play> play_;
+};
+
+}  // namespace sdk::test
+
+SUDOKU_WINDOW_TEST(sdk::test::ButtonRowTest)
+#include "button_row_test.moc"

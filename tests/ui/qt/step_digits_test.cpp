@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 the SuDoKu team
+// SPDX-License-Identifier: MIT
+
+// The digits in the drawing of a step: their places, sizes and colours.
+
+#include <QPainter>
+
+#include "tests/ui/qt/play.hpp"
+#include "ui/qt/cell_painter.hpp"
+#include "ui/qt/step_painter.hpp"
+
+namespace sdk::test {
+
+namespace {
+
+constexpr QRect square(0, 0, cell_side, cell_side);
+
+QImage painted(const PictureCell& cell, int scale = 1) {
+  QImage image(square.size() * scale, QImage::Format_RGB32);
+  QPainter painter(&image);
+  paint_step_cell(painter, image.rect(), cell);
+  return image;
+}
+
+/// Around what differs from an empty cell of that background.
+QRect ink(const PictureCell& cell, int scale = 1) {
+  const QImage drawn = painted(cell, scale);
+  const QImage empty = painted({.mark = cell.value ? Mark::value : cell.mark}, scale);
+  QRect box;
+  for (int y = 0; y < drawn.height(); ++y)
+    for (int x = 0; x < drawn.width(); ++x)
+      if (drawn.pixel(x, y) != empty.pixel(x, y)) box |= QRect(x, y, 1, 1);
+  return box;
+}
+
+/// The darkest pixel's lightness.
+int darkness(const QImage& image) {
+  int least = 255;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      least = std::min(least, image.pixelColor(x, y).lightness());
+  return least;
+}
+
+}  // namespace
+
+class StepDigitsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void each_candidate_stands_in_the_middle_of_its_place() {
+    for (int digit = 1; digit <= 9; ++digit) {
+      const QRect box = ink({.candidates = {digit}}), place = candidate_place(square, digit);
+      QVERIFY2(place.contains(box), qPrintable(QString::number(digit)));
+      const QPoint off = box.center() - place.center();
+      QVERIFY(std::abs(off.x()) <= 2 && std::abs(off.y()) <= 2);
+    }
+  }
+
+  void a_candidate_is_small_and_a_value_large() {
+    for (int digit = 1; digit <= 9; ++digit) {
+      const int small = ink({.candidates = {digit}}).height(),
+                large = ink({.value = digit}).height();
+      QVERIFY2(small >= 8 && small <= 12, qPrintable(QString::number(small)));
+      QVERIFY2(large >= 18 && large <= 23, qPrintable(QString::number(large)));
+    }
+  }
+
+  void a_value_stands_in_the_middle_of_its_cell() {
+    const QPoint off = ink({.value = 8}).center() - square.center();
+    QVERIFY(std::abs(off.x()) <= 2 && std::abs(off.y()) <= 2);
+  }
+
+  void a_larger_drawing_has_larger_digits() {
+    QVERIFY(std::abs(ink({.value = 8}, 3).height() - 3 * ink({.value = 8}).height()) <= 6);
+  }
+
+  void what_the_step_rests_on_is_black_and_bystanders_are_grey() {
+    const auto darkness_of = [](const PictureCell& cell) { return darkness(painted(cell, 4)); };
+    QCOMPARE(darkness_of({.candidates = {8}, .pattern = {8}}), 0);
+    QCOMPARE(darkness_of({.candidates = {8}, .removed = {8}}), 0);
+    QCOMPARE(darkness_of({.candidates = {8}}), 0x60);
+    QCOMPARE(darkness_of({.value = 8}), 0x60);
+  }
+
+  void a_digit_is_struck_out_from_the_lower_left_to_the_upper_right() {
+    for (int digit = 1; digit <= 9; ++digit) {
+      const QRect box = ink({.candidates = {digit}, .removed = {digit}});
+      const QPoint middle = candidate_place(square, digit).center();
+      QVERIFY(std::abs(box.left() - (middle.x() - 7)) <= 1);
+      QVERIFY(std::abs(box.right() - (middle.x() + 7)) <= 1);
+      const QImage image = painted({.candidates = {digit}, .removed = {digit}});
+      const auto is_dark = [&](int x, int y) {
+        return image.pixelColor(middle + QPoint(x, y)).lightness() < 200;
+      };
+      QVERIFY(is_dark(-6, 4) && is_dark(6, -4));
+      QVERIFY(!is_dark(-6, -4) && !is_dark(6, 4));
+    }
+  }
+
+  void a_drawing_leaves_the_painter_as_it_was() {
+    QImage image(square.size() * 2, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QTransform before = painter.transform();
+    paint_step_cell(painter, image.rect(), {.candidates = {5}, .removed = {5}});
+    QCOMPARE(painter.transform(), before);
+    QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
+  }
+};
+
+}  // namespace sdk::test
+
+SUDOKU_WINDOW_TEST(sdk::test::StepDigitsTest)
+#include "step_digits_test.moc"
