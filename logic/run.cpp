@@ -6,19 +6,18 @@
 #include <cassert>
 #include <utility>
 
+#include "board/fault.hpp"
 #include "logic/draft.hpp"
 #include "logic/position_check.hpp"
 
 namespace sdk {
 
-Run::Run(const Square<std::int16_t>& values) : position_(position_of(values)) {}
-
-Run::Run(Position start, std::span<const Technique> order)
-    : position_(std::move(start)), order_(order) {
-  recompute(position_);
-}
-
 namespace {
+
+/// In a build with assertions aborts unless the position is as every round must find it.
+void assert_sound(const Position& position) {
+  if constexpr (has_assertions) abort_on(position_fault(position));
+}
 
 Deduction deduce_dead(const Position& position, Cell cell) {
   Draft draft(position);
@@ -28,9 +27,18 @@ Deduction deduce_dead(const Position& position, Cell cell) {
 
 }  // namespace
 
+Run::Run(const Square<std::int16_t>& values) : position_(position_of(values)) {
+  assert_sound(position_);
+}
+
+Run::Run(Position start, std::span<const Technique> order)
+    : position_(std::move(start)), order_(order) {
+  recompute(position_);
+  assert_sound(position_);
+}
+
 const Event& Run::next() {
   assert(!is_over());
-  assert(position_fault(position_).empty());
   if (position_.candidates.is_complete()) return add(EventKind::completed);
   if (const auto cell = position_.candidates.dead_cell())
     return add(EventKind::dead, deduce_dead(position_, *cell));
@@ -49,6 +57,7 @@ const Event& Run::remove(Deduction deduction) {
   const Event& event = add(EventKind::removal, std::move(deduction));
   apply(event.deduction, position_);
   recompute(position_);
+  assert_sound(position_);
   return event;
 }
 

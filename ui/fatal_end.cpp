@@ -1,15 +1,42 @@
 // SPDX-FileCopyrightText: 2026 the SuDoKu team
 // SPDX-License-Identifier: MIT
 
-// How a failure that nobody handles ends the program without losing the player's grid.
+// How a command runs: a failure that nobody handles ends the program without losing the player's
+// grid, and a build with assertions checks the state that the command leaves.
 
+#include "board/fault.hpp"
 #include "files/puzzle_file.hpp"
 #include "ui/main_window.hpp"
 #include "ui/messages.hpp"
+#include "ui/state_check.hpp"
 
 namespace sdk {
 
+namespace {
+
+class CountedCommand {
+ public:
+  explicit CountedCommand(int& running) : running_(running) { ++running_; }
+  ~CountedCommand() { --running_; }
+  CountedCommand(const CountedCommand&) = delete;
+  CountedCommand& operator=(const CountedCommand&) = delete;
+
+ private:
+  int& running_;
+};
+
+}  // namespace
+
 void MainWindow::run_guarded(const std::function<void()>& handler) {
+  const bool is_outermost = commands_running_ == 0 && searches_running == 0;
+  run_handler(handler);
+  // Without its levels the window was never started, and has no state yet.
+  if constexpr (has_assertions)
+    if (is_outermost && !levels_.empty()) abort_on(state_fault(*this));
+}
+
+void MainWindow::run_handler(const std::function<void()>& handler) {
+  const CountedCommand counted(commands_running_);
   try {
     note_game();
     handler();

@@ -161,6 +161,7 @@ class MainWindow final : public Window {
   static std::size_t index(Control id) { return static_cast<std::size_t>(id); }
 
   void run_guarded(const std::function<void()>& handler);
+  void run_handler(const std::function<void()>& handler);
   void note_game();
   void restore(const GameState& state);
   [[noreturn]] void end_fatally(const RuntimeError& error);
@@ -203,6 +204,7 @@ class MainWindow final : public Window {
   Explanation explanation_;
   History history_;
   bool opened_at_start_ = false;
+  int commands_running_ = 0;  ///< one inside another while a message box or a search waits
   WindowListener* listener_ = nullptr;
 };
 

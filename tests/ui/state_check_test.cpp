@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "board/fault.hpp"
 #include "pas_a_pas/tables.hpp"
 #include "tests/support/game.hpp"
 #include "ui/messages.hpp"
@@ -132,6 +133,24 @@ const Damage damages[] = {
 
 INSTANTIATE_TEST_SUITE_P(Each, StateCheck, testing::ValuesIn(damages),
                          [](const auto& test) { return test.param.name; });
+
+TEST(StateAfterACommand, IsCheckedInABuildWithAssertions) {
+  if (!has_assertions) GTEST_SKIP() << "this build has no assertions";
+  Game game;
+  game.window.MSF.set_tab_stop(false);
+  EXPECT_DEATH(game.window.check(Control::Check1, true), "MSF stayed without focus marks");
+}
+
+TEST(StateAfterACommand, IsLeftAloneInsideAnotherCommand) {
+  Game game;
+  game.desktop.at_box = [&](const Box&) {
+    game.window.MSF.set_tab_stop(false);
+    game.window.check(Control::Check1, true);
+    game.window.MSF.set_tab_stop(true);
+  };
+  game.window.click(Control::Command3);
+  EXPECT_TRUE(game.window.VerifAuVol);
+}
 
 /// A window that was never started, made to look as if.
 class Unstarted : public testing::Test {
