@@ -45,7 +45,7 @@ class UnitCounts {
     boxes_[at(no_boite(row, column), digit)] += step;
   }
 
-  std::array<std::int8_t, 100> rows_{}, columns_{}, boxes_{};
+  std::array<int, 100> rows_{}, columns_{}, boxes_{};
 };
 
 }  // namespace sdk

@@ -51,7 +51,7 @@ const Sentence& sentence_of(const Deduction& deduction) {
 
 std::string told_technique(const Words& words, const ToldStep& step) {
   const Sentence& sentence = sentence_of(step.deduction());
-  const std::string text =
+  std::string text =
       words.say({"%1 : %2", "%1: %2"}, words.say(sentence.name), sentence.tell(words, step));
   if (!step.deduction().removes_something()) return text;
   return text + " " + removals(words, step.deduction());

@@ -47,7 +47,7 @@ bool must_stay_itself(const fs::path& file) {
 /// Short, so that it is no longer than a folder takes even where the file's own name is.
 fs::path unused_neighbour(const fs::path& file) {
   for (int n = 1;; ++n) {
-    const fs::path neighbour = file.parent_path() / ("SuDoKu-" + std::to_string(n) + ".new");
+    fs::path neighbour = file.parent_path() / ("SuDoKu-" + std::to_string(n) + ".new");
     if (!fs::exists(fs::symlink_status(neighbour))) return neighbour;
   }
 }

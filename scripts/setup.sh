@@ -16,7 +16,7 @@ packages_for() {
     picture) echo xvfb netpbm ;;
     test) echo libgtest-dev qt6-base-private-dev universal-ctags python3 ;;
     bench) echo libbenchmark-dev xvfb ;;
-    check) echo clang-format universal-ctags ;;
+    check) echo clang-format clang-tidy universal-ctags ;;
     package) echo dpkg-dev file lintian desktop-file-utils appstream shared-mime-info \
       libglib2.0-bin man-db groff xdotool xclip ;;
     keyboards) echo xvfb xdotool xclip x11-xkb-utils xkb-data ;;

@@ -51,7 +51,7 @@ namespace {
 
 std::filesystem::path unused_name(const std::filesystem::path& folder) {
   for (int n = 1;; ++n) {
-    const auto path = folder / ("SuDoKu-" + std::to_string(n) + ".sdk");
+    auto path = folder / ("SuDoKu-" + std::to_string(n) + ".sdk");
     if (!std::filesystem::exists(path)) return path;
   }
 }

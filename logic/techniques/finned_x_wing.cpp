@@ -35,14 +35,14 @@ bool sees_whole_line(const Position& position, const FinnedWing& wing, std::size
 /// The deduction rests on both base lines, or on one that a missing corner leaves to the target's
 /// sight alone.
 void rest_on_needed(Draft& draft, const Position& position, const FinnedWing& wing, Cell target) {
-  for (const std::size_t line : {0, 1})
+  for (const std::size_t line : {0u, 1u})
     if (sees_whole_line(position, wing, line, target))
       return draft.rest_on(wing.base_line(line), wing.digit);
-  for (const std::size_t line : {0, 1}) draft.rest_on(wing.base_line(line), wing.digit);
+  for (const std::size_t line : {0u, 1u}) draft.rest_on(wing.base_line(line), wing.digit);
 }
 
 void show_fins(Draft& draft, const Position& position, const FinnedWing& wing) {
-  for (const std::size_t line : {0, 1})
+  for (const std::size_t line : {0u, 1u})
     for (const int place : fins_on(position, wing, line)) {
       const Cell fin = wing.base_line(line).cell(place);
       if (draft.digits_left(fin).contains(wing.digit))
@@ -59,8 +59,8 @@ Deduction deduce_from(const Position& position, const FinnedWing& wing, Cell tar
   draft.deduction.other_unit = wing.base_line(1);
   draft.deduction.digits = {wing.digit};
   rest_on_needed(draft, position, wing, target);
-  for (const std::size_t line : {0, 1})
-    for (const std::size_t cover : {0, 1})
+  for (const std::size_t line : {0u, 1u})
+    for (const std::size_t cover : {0u, 1u})
       draft.support(wing.corner(line, cover), Role::pattern, {wing.digit});
   draft.eliminate_shown(target, {wing.digit});
   show_fins(draft, position, wing);
@@ -72,7 +72,7 @@ namespace {
 /// The boxes that the fins lie in.
 NineSet fin_boxes(const Position& position, const FinnedWing& wing) {
   NineSet boxes;
-  for (const std::size_t line : {0, 1})
+  for (const std::size_t line : {0u, 1u})
     for (const int place : fins_on(position, wing, line))
       boxes.insert(wing.base_line(line).cell(place).box());
   return boxes;

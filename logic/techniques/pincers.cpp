@@ -50,11 +50,13 @@ std::optional<Deduction> deduce_from(const Position& position, const PivotWing& 
   Draft draft(position);
   CellSet targets = wing.targets & position.candidates.cells_with(wing.digit);
   for (const int a : wing.pincers_a)
-    for (const int b : wing.pincers_b)
-      for (const int target : targets& peers_of(a) & peers_of(b)) {
+    for (const int b : wing.pincers_b) {
+      const CellSet seen = targets & peers_of(a) & peers_of(b);
+      for (const int target : seen) {
         clear_target(draft, wing, cell_at(a), cell_at(b), cell_at(target));
         targets.erase(target);
       }
+    }
   if (!draft.deduction.removes_something()) return std::nullopt;
   draft.deduction.digits = wing.pivot_digits;
   rest_on_used(draft, wing);

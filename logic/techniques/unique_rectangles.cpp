@@ -58,7 +58,7 @@ Draft begin_draft(const Rectangle& rectangle, Rule rule, Roof roof) {
   for (const Corner corner : roof)
     draft.deduction.cells_as(Role::roof).insert(rectangle.cell(corner));
   draft.deduction.certain = rectangle.lies_in_two_boxes();
-  draft.deduction.premises.push_back(OneSolution{rectangle.digits(), rectangle.cells()});
+  draft.deduction.premises.emplace_back(OneSolution{rectangle.digits(), rectangle.cells()});
   return draft;
 }
 

@@ -158,7 +158,8 @@ std::vector<Pictures::Shot> Pictures::shots_of_cells() {
                                    {"mark-support", Mark::support},
                                    {"mark-second", Mark::second},
                                    {"mark-value", Mark::value}})
-    shots.push_back({name, width, [mark](Studio& studio) { return take_mark(studio, mark); }});
+    shots.push_back(
+        {name, width, [mark = mark](Studio& studio) { return take_mark(studio, mark); }});
   return shots;
 }
 
@@ -179,7 +180,7 @@ std::vector<Pictures::Shot> Pictures::shots_of_buttons() {
                                      {"about", "Command5"},
                                      {"quit", "Command3"}})
     shots.push_back({QString("button-") + name, width,
-                     [button](Studio& studio) { return studio.button(button); }});
+                     [button = button](Studio& studio) { return studio.button(button); }});
   return shots;
 }
 

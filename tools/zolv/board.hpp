@@ -15,7 +15,7 @@ namespace zolv {
 
 /// For each cell, what a digit in it leaves to that digit.
 inline constexpr auto kept_by = [] {
-  std::array<Cells, 81> kept;
+  Table<Cells, 81> kept;
   for (int cell = 0; cell < 81; ++cell) kept[cell] = all_but_peers(cell);
   return kept;
 }();
@@ -23,7 +23,7 @@ inline constexpr auto kept_by = [] {
 /// What is known of a grid: for each digit (0..8 here) the cells where it can still stand.
 class Board {
  public:
-  Board() { places_.fill(Cells::all()); }
+  Board() { std::ranges::fill(places_, Cells::all()); }
 
   bool can_hold(int cell, int digit) const { return places_[digit].contains(cell); }
   bool is_open(int cell) const { return !settled_.contains(cell); }
@@ -126,7 +126,7 @@ class Board {
 
   /// The cells with the fewest candidates among those with more than one. There must be one.
   Cells narrowest_cells() const {
-    std::array<Cells, 11> at_least{Cells::all()};
+    Table<Cells, 11> at_least{Cells::all()};
     for (const Cells& places : places_)
       for (int n = 9; n >= 1; --n) at_least[n] |= at_least[n - 1] & places;
     int n = 2;
@@ -145,7 +145,7 @@ class Board {
   /// Takes the other digits out of every cell that is a digit's only place in a unit, and gives
   /// these cells; nothing when a digit has no place in a unit, or two digits need the same cell.
   std::optional<Cells> isolate_hidden_singles() {
-    std::array<Cells, 9> single;
+    Table<Cells, 9> single;
     Cells found, contested;
     for (int digit = 0; digit < 9; ++digit) {
       const std::optional<Cells> alone = alone_in_unit(places_[digit]);
@@ -159,7 +159,7 @@ class Board {
     return found;
   }
 
-  std::array<Cells, 9> places_;
+  Table<Cells, 9> places_;
   Cells settled_;
 };
 

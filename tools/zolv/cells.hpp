@@ -4,9 +4,10 @@
 /// Sets of cells. Cells are numbered 0..80, row by row.
 #pragma once
 
-#include <array>
 #include <bit>
 #include <cstdint>
+
+#include "table.hpp"
 
 namespace zolv {
 
@@ -16,6 +17,13 @@ using Band = std::uint32_t;
 /// A set of cells. The fourth band stays empty: with it, every operation below is one instruction
 /// on a vector of four.
 class Cells {
+  // Before the operators: clang 14 evaluates them at compile time only with this definition seen.
+  template <class Operation>
+  constexpr Cells& apply(const Cells& other, Operation operation) {
+    for (int b = 0; b < 4; ++b) bands_[b] = operation(bands_[b], other.bands_[b]);
+    return *this;
+  }
+
  public:
   constexpr Cells() = default;
   constexpr Cells(Band top, Band middle, Band bottom) : bands_{top, middle, bottom} {}
@@ -78,13 +86,7 @@ class Cells {
   }
 
  private:
-  template <class Operation>
-  constexpr Cells& apply(const Cells& other, Operation operation) {
-    for (int b = 0; b < 4; ++b) bands_[b] = operation(bands_[b], other.bands_[b]);
-    return *this;
-  }
-
-  std::array<Band, 4> bands_{};
+  Table<Band, 4> bands_;
 };
 
 }  // namespace zolv

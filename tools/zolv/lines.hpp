@@ -5,6 +5,8 @@
 /// and once in each of its boxes, which leaves six ways for the three crossings that hold it.
 #pragma once
 
+#include <array>
+
 #include "cells.hpp"
 
 namespace zolv {
@@ -13,7 +15,7 @@ namespace zolv {
 /// stand: those that one of the six ways passes through.
 inline constexpr auto crossings_in_use = [] {
   constexpr int ways[6][3] = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
-  std::array<std::uint16_t, 512> in_use{};
+  std::array<unsigned, 512> in_use{};
   for (unsigned possible = 0; possible < 512; ++possible)
     for (const auto& way : ways) {
       const unsigned crossings = 1u << way[0] | 8u << way[1] | 64u << way[2];
@@ -24,9 +26,9 @@ inline constexpr auto crossings_in_use = [] {
 
 /// The crossings of a row of nine cells with its three boxes, three bits.
 inline constexpr auto crossings_of_row = [] {
-  std::array<std::uint8_t, 512> crossings{};
+  std::array<unsigned, 512> crossings{};
   for (unsigned row = 0; row < 512; ++row)
-    crossings[row] = (row & 7 ? 1 : 0) | (row >> 3 & 7 ? 2 : 0) | (row >> 6 ? 4 : 0);
+    crossings[row] = (row & 7 ? 1u : 0u) | (row >> 3 & 7 ? 2u : 0u) | (row >> 6 ? 4u : 0u);
   return crossings;
 }();
 
@@ -49,7 +51,7 @@ inline Band in_use_by_rows(Band band) {
 /// The cells of `places`, where one digit can stand, but for those that the crossings of columns
 /// and boxes exclude.
 inline Cells in_use_by_columns(const Cells& places) {
-  std::array<Band, 3> seen, kept{};
+  Table<Band, 3> seen, kept;
   for (int b = 0; b < 3; ++b)
     seen[b] = (places.band(b) | places.band(b) >> 9 | places.band(b) >> 18) & 0x1FF;
   for (int stack = 0; stack < 9; stack += 3) {

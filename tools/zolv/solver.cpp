@@ -123,15 +123,19 @@ Board first_in_row_order(Board board, Board solution) {
 
 Board board_of(const Grid& givens) {
   Board board;
-  for (int cell = 0; cell < 81; ++cell)
-    if (givens[cell] != 0) board.leave_only(givens[cell] - 1, cell);
+  int cell = 0;
+  for (const int digit : givens) {
+    if (digit != 0) board.leave_only(digit - 1, cell);
+    ++cell;
+  }
   return board;
 }
 
 Grid grid_of(const Board& solved) {
   Grid grid{};
-  for (int cell = 0; cell < 81; ++cell)
-    grid[cell] = static_cast<std::uint8_t>(solved.first_candidate(cell) + 1);
+  int cell = 0;
+  for (std::uint8_t& digit : grid)
+    digit = static_cast<std::uint8_t>(solved.first_candidate(cell++) + 1);
   return grid;
 }
 

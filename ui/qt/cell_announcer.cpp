@@ -18,9 +18,9 @@ void tell(QAccessibleInterface* cell, QAccessible::Event what) {
 
 }  // namespace
 
-std::vector<QString> CellAnnouncer::accessible_texts() const {
+QStringList CellAnnouncer::accessible_texts() const {
   const QAbstractItemModel& model = *view_.model();
-  std::vector<QString> texts;
+  QStringList texts;
   for (int row = 0; row < model.rowCount(); ++row)
     for (int column = 0; column < model.columnCount(); ++column)
       texts.push_back(model.data(model.index(row, column), Qt::AccessibleTextRole).toString());
@@ -33,10 +33,10 @@ QAccessibleInterface* CellAnnouncer::accessible_cell(int row, int column) const 
 
 void CellAnnouncer::announce_changes() {
   if (!QAccessible::isActive()) return told_.clear();
-  const std::vector<QString> before = std::exchange(told_, accessible_texts());
+  const QStringList before = std::exchange(told_, accessible_texts());
   if (!view_.isVisible()) return;
   const int columns = view_.model()->columnCount();
-  for (int i = 0; i < static_cast<int>(before.size()); ++i)
+  for (int i = 0; i < before.size(); ++i)
     if (before[i] != told_[i])
       tell(accessible_cell(i / columns, i % columns), QAccessible::NameChanged);
 }

@@ -4,8 +4,7 @@
 /// What a screen reader has to hear of a grid beside what Qt tells it.
 #pragma once
 
-#include <QString>
-#include <vector>
+#include <QStringList>
 
 class QAccessibleInterface;
 class QTableView;
@@ -25,11 +24,11 @@ class CellAnnouncer {
   void announce_focus();
 
  private:
-  std::vector<QString> accessible_texts() const;
+  QStringList accessible_texts() const;
   QAccessibleInterface* accessible_cell(int row, int column) const;
 
   QTableView& view_;
-  std::vector<QString> told_;  ///< row by row; empty when nothing was told
+  QStringList told_;  ///< row by row; empty when nothing was told
 };
 
 }  // namespace sdk

@@ -66,7 +66,8 @@ void CarefulDialog::propose(const QString& name) {
 void CarefulDialog::showEvent(QShowEvent* event) {
   QFileDialog::showEvent(event);
   keep_on_screen(*this);
-  if (!proposed_.isEmpty()) name_edit()->setSelection(0, proposed_.lastIndexOf('.'));
+  if (!proposed_.isEmpty())
+    name_edit()->setSelection(0, static_cast<int>(proposed_.lastIndexOf('.')));
 }
 
 void CarefulDialog::accept() {

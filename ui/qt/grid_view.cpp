@@ -144,7 +144,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
   if (hasFocus())
     QTableView::currentChanged(current, previous);
   else
-    QAbstractItemView::currentChanged(current, previous);
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
   follow_view();
 }
 

@@ -85,7 +85,7 @@ void QtDesktop::start_dialogs_in(const std::filesystem::path& folder) { dialogs_
 
 std::string QtDesktop::ask(const std::function<std::string()>& dialog) {
   language_.follow();
-  const std::string file = dialog();
+  std::string file = dialog();
   guard_.rethrow();
   return file;
 }
@@ -133,7 +133,7 @@ void QtDesktop::open_document(const std::string& document_or_address) {
 }
 
 std::filesystem::path QtDesktop::data_folder() {
-  const std::filesystem::path folder =
+  std::filesystem::path folder =
       QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
   std::error_code error;
   std::filesystem::create_directories(folder, error);
