@@ -83,9 +83,9 @@ refused_for_want_of packaging/sudoku-pas-a-pas.metainfo.xml.in
 
 # More than a pipe takes at once.
 copy_sources
-for ((i = 0; i < 200; ++i)); do echo "- A change of which there are very many, number $i."; done |
+for ((i = 0; i < 120; ++i)); do echo "- A change of which there are very many, number $i."; done |
   sed -i '/^- More/r /dev/stdin' "$tree/CHANGELOG.md"
 write 98.7.6 2031-02-03
-expect packaging/changelog.in '  * A change of which there are very many, number 199.'
+expect packaging/changelog.in '  * A change of which there are very many, number 119.'
 
 exit $((failures > 0))
