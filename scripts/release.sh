@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 the SuDoKu team
 # SPDX-License-Identifier: MIT
 
-# Releases a version: writes it where the sources name it, runs all checks, builds the package in two
-# folders and compares the two, commits, and tags the commit. All of it happens in a clone; only when
+# Releases a version: writes it where the sources name it, commits, tags the commit, runs all checks,
+# builds the package in two folders and compares the two. All of it happens in a clone; only when
 # everything went well do the commit and the tag come to this branch, and the package to build/.
 #   scripts/release.sh X.Y.Z [--no-page] [--dry-run]
 # --no-page allows a release whose page has no address yet; --dry-run does everything in the clone
@@ -77,12 +77,15 @@ cd "$work"
 build_twice
 
 if ((dry_run)); then
-  git -C tree show --stat v"$version"
+  git -C tree --no-pager show --stat v"$version"
   echo "Version $version could be released; nothing was changed here."
   exit 0
 fi
 cd "$here"
-git pull -q --ff-only "$work/tree" "refs/tags/v$version:refs/tags/v$version"
+# The tag comes last: where the branch went on meanwhile, nothing is left behind.
+git pull -q --ff-only --no-tags "$work/tree" HEAD ||
+  fail "the branch or its files changed meanwhile; nothing was changed here"
+git fetch -q "$work/tree" tag "v$version"
 mkdir -p build
 cp "$work/$package" build/
 echo "Released: version $version, tag v$version, build/${package##*/}"

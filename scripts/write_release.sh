@@ -5,8 +5,8 @@
 # Writes a new version wherever the sources name it, with what CHANGELOG.md has as unreleased.
 #   scripts/write_release.sh X.Y.Z DATE [FOLDER]    with DATE as YYYY-MM-DD; FOLDER holds the sources
 set -euo pipefail
-version=$1
-date=$2
+version=${1:-}
+date=${2:-}
 cd "${3:-$(dirname "${BASH_SOURCE[0]}")/..}"
 package=packaging/sudoku-pas-a-pas
 
@@ -32,19 +32,23 @@ debian_entry() {
   printf '\n -- the SuDoKu team <team@@host@>  %s\n\n' "$(date -u -R -d "$date 12:00:00Z")"
 }
 
-replace() { # FILE SED-COMMAND: which has to change something
-  sed -i.before "$2" "$1"
-  ! cmp -s "$1" "$1.before" || fail "$1 has no place for version $version"
-  rm "$1.before"
+prepare() { # FILE SED-COMMAND: which has to change something
+  sed "$2" "$1" >"$new/${1##*/}"
+  ! cmp -s "$1" "$new/${1##*/}" || fail "$1 has no place for version $version"
 }
 
 [[ $version =~ ^[0-9]+\.[0-9]+\.[0-9]+$ ]] || fail "$version is no version X.Y.Z"
-[[ $date =~ ^[0-9]{4}-[0-9]{2}-[0-9]{2}$ ]] || fail "$date is no date YYYY-MM-DD"
-unreleased | grep -q '^- ' || fail "CHANGELOG.md has nothing that is unreleased"
+[[ $date =~ ^[0-9]{4}-[0-9]{2}-[0-9]{2}$ ]] && date -d "$date" >/dev/null 2>&1 ||
+  fail "$date is no date YYYY-MM-DD"
+[[ -n $(changes) ]] || fail "CHANGELOG.md has nothing that is unreleased"
 
-entry=$(debian_entry)
-printf '%s\n\n%s\n' "$entry" "$(<packaging/changelog.in)" >packaging/changelog.new
-mv packaging/changelog.new packaging/changelog.in
-replace CMakeLists.txt "s/^project(SuDoKu VERSION [0-9.]*/project(SuDoKu VERSION $version/"
-replace $package.metainfo.xml.in "s|^  <releases>|&\n    <release version=\"$version\" date=\"$date\"/>|"
-replace CHANGELOG.md "s/^## \[Unreleased\]/&\n\n## [$version] - $date/"
+# Nothing is written before everything is known to have its place.
+new=$(mktemp -d)
+trap 'rm -rf "$new"' EXIT
+prepare CMakeLists.txt "s/^project(SuDoKu VERSION [0-9.]*/project(SuDoKu VERSION $version/"
+prepare $package.metainfo.xml.in "s|^  <releases>|&\n    <release version=\"$version\" date=\"$date\"/>|"
+prepare CHANGELOG.md "s/^## \[Unreleased\]/&\n\n## [$version] - $date/"
+printf '%s\n\n%s\n' "$(debian_entry)" "$(<packaging/changelog.in)" >"$new/changelog.in"
+for file in CMakeLists.txt CHANGELOG.md $package.metainfo.xml.in packaging/changelog.in; do
+  cat "$new/${file##*/}" >"$file"
+done

@@ -70,5 +70,22 @@ refused 'nothing that is unreleased' 99.0.0 2031-02-03
 copy_sources
 refused 'no version' 1.1 2031-02-03
 refused 'no date' 98.7.6 today
+refused 'no date' 98.7.6 2031-02-30
+refused 'no version'
+
+refused_for_want_of() { # FILE
+  copy_sources
+  sed -i '/^project(/d; /<releases>/d' "$tree/$1"
+  refused "$1 has no place" 98.7.6 2031-02-03
+}
+refused_for_want_of CMakeLists.txt
+refused_for_want_of packaging/sudoku-pas-a-pas.metainfo.xml.in
+
+# More than a pipe takes at once.
+copy_sources
+for ((i = 0; i < 120; ++i)); do echo "- A change of which there are very many, number $i."; done |
+  sed -i '/^- More/r /dev/stdin' "$tree/CHANGELOG.md"
+write 98.7.6 2031-02-03
+expect packaging/changelog.in '  * A change of which there are very many, number 119.'
 
 exit $((failures > 0))
