@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
@@ -50,6 +51,7 @@ class CarefulDialog final : public QFileDialog {
 
  private:
   QLineEdit* name_edit() const { return findChild<QLineEdit*>("fileNameEdit"); }
+  void let_a_typed_path_count();
   bool is_entered(const QString& folder) const;
   void tell(const QString& refusal);
 
@@ -71,10 +73,16 @@ void CarefulDialog::showEvent(QShowEvent* event) {
 }
 
 void CarefulDialog::accept() {
+  let_a_typed_path_count();
   const QString file = selectedFiles().value(0);
   const QString refusal = is_entered(file) ? QString() : refusal_(file);
   if (refusal.isEmpty()) return QFileDialog::accept();
   tell(refusal);
+}
+
+/// While a path is typed Qt may select a folder on its way, and would take that for the file.
+void CarefulDialog::let_a_typed_path_count() {
+  if (name_edit()->text().contains('/')) findChild<QListView*>("listView")->clearSelection();
 }
 
 /// A folder is entered when it is picked in the list, or typed with the sign that makes it one.

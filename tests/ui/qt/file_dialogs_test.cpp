@@ -30,6 +30,17 @@ QStringList places_of(const QFileDialog& dialog) {
   return names;
 }
 
+/// Types a name key by key, as a player does while the dialog proposes how it may go on, and Enter.
+void type_name(QFileDialog& dialog, const QString& name) {
+  auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+  edit->clear();
+  for (const QChar letter : name) {
+    QWidget* proposals = QApplication::activePopupWidget();
+    QTest::keyClick(proposals ? proposals : edit, letter.toLatin1(), Qt::NoModifier, 20);
+  }
+  QTest::keyClick(edit, Qt::Key_Return, Qt::NoModifier, 200);
+}
+
 void write(const QString& file) { write_file(file.toStdString(), puzzle); }
 
 QString text_of_file(const QString& file) {
@@ -215,6 +226,22 @@ class FileDialogsTest : public QObject {
     });
     play_->click("sauve");
     QVERIFY(QFile::exists(at("Documents/partie.sdk")));
+  }
+
+  void a_whole_path_that_is_typed_names_the_file_and_not_the_folder_on_the_way() {
+    make("Documents/p");
+    const QString first = at("Documents/p/first.sdk"), path = at("Documents/p/puzzle.sdk");
+    for (const QString& file : {first, path}) write(file);
+    choose_file(first);
+    play_->click("Command6");
+    BoxAnswer refused(QMessageBox::Ok);
+    in_file_dialog([&](QFileDialog& dialog) {
+      type_name(dialog, path);
+      if (dialog.isVisible()) dialog.reject();
+    });
+    play_->click("Command6");
+    QVERIFY(!refused.was_shown());
+    QCOMPARE(play_->frame.windowTitle(), path);
   }
 
   void rescued_grids_stand_in_the_sidebar_under_a_name_of_their_own() {
