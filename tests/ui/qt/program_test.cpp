@@ -46,7 +46,7 @@ class ProgramTest : public QObject {
     QProcess program;
     program.setProcessEnvironment(environment);
     program.start(SUDOKU_PROGRAM, {});
-    program.waitForFinished(60'000);
+    if (!program.waitForFinished(60'000) || program.exitCode() != 0) return {"it failed"};
     return QString::fromUtf8(program.readAllStandardOutput()).trimmed().split('\n');
   }
 };
