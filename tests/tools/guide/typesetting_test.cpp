@@ -61,6 +61,7 @@ class TypesettingTest : public QObject {
       const QTextBlock block = block_with(*document, name);
       return text_format(block).fontPointSize() == size &&
              text_format(block).fontWeight() == QFont::Bold &&
+             !text_format(block).hasProperty(QTextFormat::FontSizeAdjustment) &&
              text_format(block).foreground().color() == blue &&
              block.blockFormat().topMargin() == millimetres(above) &&
              block.blockFormat().bottomMargin() == millimetres(below);

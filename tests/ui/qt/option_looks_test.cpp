@@ -4,6 +4,7 @@
 // How the options below the grids look on light and dark desktops.
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 
 #include "tests/ui/qt/play.hpp"
@@ -52,6 +53,34 @@ class OptionLooksTest : public QObject {
       const QPalette shown = play_->find("Niveau").palette();
       QCOMPARE(shown.color(QPalette::PlaceholderText), shown.color(QPalette::ButtonText));
     }
+  }
+
+  void the_list_of_levels_is_framed_and_has_its_arrow() {
+    show(light());
+    const QWidget& levels = play_->find("Niveau");
+    const QImage picture = play_->find("Niveau").grab().toImage();
+    const QColor back = levels.palette().color(QPalette::Base);
+    QVERIFY(picture.pixelColor(levels.width() / 2, 0) != back ||
+            picture.pixelColor(levels.width() / 2, 1) != back);
+    int inked = 0;
+    for (int y = 6; y < picture.height() - 6; ++y)
+      for (int x = picture.width() - 20; x < picture.width() - 4; ++x)
+        inked += picture.pixelColor(x, y).lightness() < 100;
+    QVERIFY2(inked > 5, qPrintable(QString::number(inked)));
+  }
+
+  void a_level_that_holds_looks_like_a_chosen_one() {
+    show(light());
+    auto& levels = play_->find<QComboBox>("Niveau");
+    levels.setPlaceholderText(levels.itemText(2));
+    levels.setCurrentIndex(2);
+    const QImage chosen = levels.grab().toImage();
+    levels.setCurrentIndex(-1);
+    QCOMPARE(levels.grab().toImage(), chosen);
+    levels.setPlaceholderText(levels.itemText(3));
+    QVERIFY(levels.grab().toImage() != chosen);
+    levels.setCurrentIndex(4);
+    QVERIFY(levels.grab().toImage() != chosen);
   }
 
   void the_boxes_stand_in_a_row_from_the_left() {

@@ -86,6 +86,21 @@ class PrintingTest : public QObject {
     QCOMPARE(after, before);
   }
 
+  void texts_hang_from_their_upper_edge() {
+    const QImage image = painted(page());
+    int texts = 0;
+    for (const Drawing& drawing : page())
+      if (const auto* text = std::get_if<TextDrawing>(&drawing)) {
+        const int x = static_cast<int>(text->x), y = static_cast<int>(text->y),
+                  line = text->size * 20;
+        QVERIFY(has_ink(image, QRect(x, y + line / 2, 2000, line / 2)));
+        QVERIFY(!has_ink(image, QRect(x, y - line / 8, 2000, line / 8)));
+        QVERIFY(!has_ink(image, QRect(x, y + line * 3 / 2, 2000, line / 4)));
+        ++texts;
+      }
+    QCOMPARE(texts, 2);
+  }
+
   void a_pdf_has_one_portrait_page() {
     QBuffer file;
     file.open(QIODevice::WriteOnly);

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include "pas_a_pas/view.hpp"
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/step_painter.hpp"
@@ -96,6 +97,15 @@ class StepDigitsTest : public QObject {
       QVERIFY(is_dark(-6, 4) && is_dark(6, -4));
       QVERIFY(!is_dark(-6, -4) && !is_dark(6, 4));
     }
+  }
+
+  void the_background_fills_the_cell_to_its_edges() {
+    const QColor back = to_qcolor(mark_background(Mark::support));
+    const QImage image = painted({.mark = Mark::support});
+    QCOMPARE(image.pixelColor(0, 0), back);
+    QCOMPARE(image.pixelColor(cell_side - 2, cell_side - 2), back);
+    QVERIFY(image.pixelColor(cell_side - 1, 0) != back);
+    QVERIFY(image.pixelColor(0, cell_side - 1) != back);
   }
 
   void a_drawing_leaves_the_painter_as_it_was() {
