@@ -42,11 +42,10 @@ bool MainFrame::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-/// An open list does not outlast the key: its texts may change under it, and Escape closes it and
-/// does nothing else.
+/// An open list does not outlast the key: its texts may change under it, and Escape closes it.
 void MainFrame::preview(int code) {
-  if (close_open_list() && code == key::escape) return;
-  const bool left = code == key::escape && explanation_->leave_step();
+  const bool closed = close_open_list();
+  const bool left = closed || (code == key::escape && explanation_->leave_step());
   if (!gate_.is_asking()) return guard_.run([&] { window_.preview_key(code); });
   if (code == key::escape && !left) gate_.return_to_box();
 }

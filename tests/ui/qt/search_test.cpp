@@ -3,7 +3,6 @@
 
 // What the player can do, and what he sees, while a search runs.
 
-#include <QComboBox>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -180,22 +179,6 @@ class SearchTest : public QObject {
       play_->press(Qt::Key_Escape);
     });
     QCOMPARE(stopped.box().text, "Solver stopped!");
-  }
-
-  void escape_closes_an_open_list_and_only_then_stops_the_search() {
-    BoxAnswer stopped(QMessageBox::Ok);
-    bool went_on = false;
-    search_and([&] {
-      play_->find<QComboBox>("Niveau").showPopup();
-      QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-      QVERIFY(!QApplication::activePopupWidget());
-      later(100, [&] {
-        went_on = !stopped.was_shown();
-        play_->press(Qt::Key_Escape);
-      });
-    });
-    QVERIFY(went_on);
-    QVERIFY(stopped.was_shown());
   }
 
   void a_search_that_lasts_is_told_in_the_language_on_screen() {
