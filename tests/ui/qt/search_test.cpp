@@ -264,6 +264,14 @@ class SearchTest : public QObject {
     return path;
   }
 
+  /// The puzzle that the digits are compared with is made at random, and may have some of them.
+  bool some_digit_is_red() const {
+    for (int row = 0; row < DisplayGrid::size; ++row)
+      for (int column = 0; column < DisplayGrid::size; ++column)
+        if (play_->window.MSF.cell(row, column).text_colour == colour::red) return true;
+    return false;
+  }
+
   /// What each command leaves where a digit was typed in the middle and can be taken back, or away
   /// again.
   bool was_done(const QString& command) {
@@ -271,7 +279,7 @@ class SearchTest : public QObject {
     const bool empty = play_->text(5, 5) == " ";
     if (command == "Command1") return play_->text(1, 9) != "9" || play_->text(9, 1) != "1";
     if (command == "Command2") return empty && window.can_undo() && !window.can_redo();
-    if (command == "Command7") return window.MSF.cell(0, 8).text_colour != colour::black;
+    if (command == "Command7") return some_digit_is_red();
     if (command == "Command8") return window.explanation().size() > 0;
     if (command == "undo") return empty && window.can_redo();
     return empty && window.can_undo() && !window.can_redo();
