@@ -137,18 +137,25 @@ INSTANTIATE_TEST_SUITE_P(Each, StateCheck, testing::ValuesIn(damages),
 TEST(StateAfterACommand, IsCheckedInABuildWithAssertions) {
   if (!has_assertions) GTEST_SKIP() << "this build has no assertions";
   Game game;
-  game.window.MSF.set_tab_stop(false);
-  EXPECT_DEATH(game.window.check(Control::Check1, true), "MSF stayed without focus marks");
+  game.desktop.at_box = [&](const Box&) { game.window.MSF.set_tab_stop(false); };
+  EXPECT_DEATH(game.window.click(Control::Command3), "MSF stayed without focus marks");
 }
 
 TEST(StateAfterACommand, IsLeftAloneInsideAnotherCommand) {
   Game game;
   game.desktop.at_box = [&](const Box&) {
-    game.window.MSF.set_tab_stop(false);
-    game.window.check(Control::Check1, true);
-    game.window.MSF.set_tab_stop(true);
+    const bool is_first = game.desktop.boxes.size() == 1;
+    if (is_first) game.window.click(Control::Command3);
+    game.window.MSF.set_tab_stop(is_first);
   };
   game.window.click(Control::Command3);
+  EXPECT_EQ(game.desktop.boxes.size(), 2u);
+}
+
+TEST(StateAfterACommand, IsLeftAloneWhenTheCommandFoundItDamaged) {
+  Game game;
+  game.window.MSF.set_tab_stop(false);
+  game.window.check(Control::Check1, true);
   EXPECT_TRUE(game.window.VerifAuVol);
 }
 

@@ -80,7 +80,7 @@ const std::vector<GuidePosition> all_positions{
 const std::vector<GuidePosition>& positions() { return all_positions; }
 
 std::string name_of(const GuidePosition& position) {
-  const std::string name(position.technique);
+  std::string name(position.technique);
   if (std::ranges::count(positions(), position.technique, &GuidePosition::technique) == 1)
     return name;
   const auto number = std::count_if(positions().data(), &position + 1, [&](const auto& other) {

@@ -26,7 +26,7 @@ std::string_view Arguments::next() const { return text_.substr(0, text_.find_fir
 
 std::string Arguments::take_word(std::string_view what) {
   if (empty()) throw ScriptError(std::string(what) + " is missing");
-  const std::string taken(next());
+  std::string taken(next());
   text_ = trimmed(text_.substr(taken.size()));
   return taken;
 }

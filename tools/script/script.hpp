@@ -33,8 +33,8 @@ class Script {
 
   // What commands are made of.
 
-  /// Understands a command without doing it. Throws ScriptError.
-  Action understand(std::string_view command);
+  /// Understands the text of a command without doing it. Throws ScriptError.
+  Action understand(std::string_view text);
   /// Starts the program afresh with a command line, in the folder that the script began in; one
   /// that is running is forgotten.
   void start(const std::string& command_line);
@@ -47,7 +47,7 @@ class Script {
   std::ostream& out() { return out_; }
 
  private:
-  void run_command(std::string_view command);
+  void run_command(std::string_view text);
 
   std::ostream& out_;
   ScriptDesktop desktop_;

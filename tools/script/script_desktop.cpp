@@ -124,7 +124,7 @@ void ScriptDesktop::open_document(const std::string& document_or_address) {
 }
 
 std::filesystem::path ScriptDesktop::data_folder() {
-  const auto folder = platform::data_home() / "sudoku";
+  auto folder = platform::data_home() / "sudoku";
   std::error_code failure;
   std::filesystem::create_directories(folder, failure);
   if (failure) throw RuntimeError(folder.string(), failure.message());
