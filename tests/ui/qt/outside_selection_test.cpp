@@ -47,14 +47,15 @@ class OutsideSelectionTest : public QObject {
   }
 
   void what_is_selected_in_parts_is_selected_from_the_first_to_the_last_cell() {
-    const QItemSelection above(index(1, 5), index(2, 7)), below(index(4, 2), index(6, 3));
-    for (const auto& [first, second] : {std::pair(above, below), std::pair(below, above)}) {
-      make_current(1, 7, QItemSelectionModel::ClearAndSelect);
-      view_->selectionModel()->select(first, QItemSelectionModel::ClearAndSelect);
-      view_->selectionModel()->setCurrentIndex(index(1, 7), QItemSelectionModel::Select);
-      view_->selectionModel()->select(second, QItemSelectionModel::Select);
-      QCOMPARE(grid().selection(), (CellRange{1, 2, 6, 7}));
-    }
+    const QModelIndex upper_right = index(1, 7), lower_left = index(6, 2);
+    const QItemSelection above(index(1, 5), upper_right), below(lower_left, index(6, 3));
+    for (const QModelIndex& current : {upper_right, lower_left})
+      for (const auto& [first, second] : {std::pair(above, below), std::pair(below, above)}) {
+        make_current(current.row(), current.column(), QItemSelectionModel::ClearAndSelect);
+        view_->selectionModel()->select(first, QItemSelectionModel::ClearAndSelect);
+        view_->selectionModel()->select(second, QItemSelectionModel::Select);
+        QCOMPARE(grid().selection(), (CellRange{1, 2, 6, 7}));
+      }
   }
 
   void the_view_tells_the_text_and_the_colours_of_a_cell() {
