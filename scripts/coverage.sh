@@ -33,7 +33,8 @@ python3 - "$build/lines.json" >"$build/unrun.txt" <<'END'
 import itertools, json, sys
 
 for file in json.load(open(sys.argv[1]))["files"]:
-    lines = [line["line_number"] for line in file["lines"] if not line["count"]]
+    lines = [line["line_number"] for line in file["lines"]
+             if not line["count"] and not line["gcovr/noncode"]]
     runs = [list(run) for _, run in itertools.groupby(enumerate(lines), lambda l: l[1] - l[0])]
     if lines:
         print(file["file"], ",".join(f"{run[0][1]}-{run[-1][1]}" if run[1:] else str(run[0][1])

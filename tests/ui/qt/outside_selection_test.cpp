@@ -7,6 +7,7 @@
 #include <QTableView>
 
 #include "tests/ui/qt/play.hpp"
+#include "ui/qt/cell_painter.hpp"
 
 namespace sdk::test {
 
@@ -43,6 +44,28 @@ class OutsideSelectionTest : public QObject {
     QCOMPARE(grid().current_column(), 6);
     play_->settle();
     QCOMPARE(view_->selectionModel()->selectedIndexes().size(), 9);
+  }
+
+  void what_is_selected_in_parts_is_selected_from_the_first_to_the_last_cell() {
+    const QModelIndex upper_right = index(1, 7), lower_left = index(6, 2);
+    const QItemSelection above(index(1, 5), upper_right), below(lower_left, index(6, 3));
+    for (const QModelIndex& current : {upper_right, lower_left})
+      for (const auto& [first, second] : {std::pair(above, below), std::pair(below, above)}) {
+        make_current(current.row(), current.column(), QItemSelectionModel::ClearAndSelect);
+        view_->selectionModel()->select(first, QItemSelectionModel::ClearAndSelect);
+        view_->selectionModel()->select(second, QItemSelectionModel::Select);
+        QCOMPARE(grid().selection(), (CellRange{1, 2, 6, 7}));
+      }
+  }
+
+  void the_view_tells_the_text_and_the_colours_of_a_cell() {
+    grid().make_current(4, 6);
+    grid().set_text("7");
+    grid().set_text_colour(colour::green);
+    grid().set_back_colour(colour::from_file);
+    QCOMPARE(index(4, 6).data().toString(), "7");
+    QCOMPARE(index(4, 6).data(Qt::ForegroundRole).value<QColor>(), to_qcolor(colour::green));
+    QCOMPARE(index(4, 6).data(Qt::BackgroundRole).value<QColor>(), to_qcolor(colour::from_file));
   }
 
   void a_selection_of_the_grid_shows_in_the_view() {
