@@ -125,7 +125,7 @@ class PicturesTest : public QObject {
 }  // namespace sdk::test
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  sdk::prepare_screen();
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);
   sdk::test::PicturesTest test;

@@ -22,6 +22,12 @@ DisplayCell cell_of(const std::string& text, Colour colour = colour::black) {
   return cell;
 }
 
+DisplayCell wrong_cell() {
+  DisplayCell cell = cell_of("8", colour::red);
+  cell.wrong = true;
+  return cell;
+}
+
 QImage painted(const DisplayCell& cell, int font_size = puzzle_font_size) {
   QImage image(square.size(), QImage::Format_RGB32);
   QPainter painter(&image);
@@ -97,10 +103,10 @@ class CellPaintingTest : public QObject {
   }
 
   void a_wrong_digit_is_underlined_by_a_zigzag() {
-    const QRect right = ink(painted(cell_of("8"))), wrong = ink(painted(cell_of("8", colour::red)));
+    const QRect right = ink(painted(cell_of("8"))), wrong = ink(painted(wrong_cell()));
     QVERIFY(wrong.bottom() > right.bottom() + 4);
     QVERIFY(about(wrong.left(), 11) && about(wrong.right(), 41) && about(wrong.bottom(), 46));
-    const QImage image = painted(cell_of("8", colour::red));
+    const QImage image = painted(wrong_cell());
     // It begins above and ends below.
     QVERIFY(image.pixelColor(12, 41) != Qt::white && image.pixelColor(12, 45) == Qt::white);
     QVERIFY(image.pixelColor(40, 45) != Qt::white && image.pixelColor(40, 41) == Qt::white);
@@ -109,7 +115,7 @@ class CellPaintingTest : public QObject {
   void the_zigzag_is_drawn_smoothly_and_the_painter_left_as_it_was() {
     QImage image(square.size(), QImage::Format_RGB32);
     QPainter painter(&image);
-    paint_cell(painter, square, cell_of("8", colour::red), puzzle_font_size);
+    paint_cell(painter, square, wrong_cell(), puzzle_font_size);
     QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
     QSet<QRgb> shades;
     for (int x = 11; x < 42; ++x)
