@@ -39,6 +39,7 @@ std::string can_only_be(const Words& words, const std::vector<CellHolds>& facts)
 
 std::string in_their_units(const Words& words, const std::vector<DigitInUnit>& facts) {
   std::vector<std::string> clauses;
+  clauses.reserve(facts.size());
   for (const auto& [unit, digit, cells] : facts)
     clauses.push_back(words.say(
         clauses.empty() ? Text{"dans %1, le %2 ne va qu'en %3", "in %1, the %2 can only go in %3"}

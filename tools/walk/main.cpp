@@ -157,6 +157,7 @@ int run(const Order& order) {
 
 }  // namespace
 
+// What lacks memory is ended by the system. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   const std::optional<Order> order = read_order(argc, argv);
