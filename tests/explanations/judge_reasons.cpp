@@ -52,7 +52,7 @@ void judge_fish(ToldCase& told) {
   const Claims& claims = told.claims;
   for (const auto& [cause, effect] : claims.chained)
     told.expect(std::ranges::any_of(claims.units,
-                                    [&](const DigitInUnit& line) {
+                                    [&, &cause = cause, &effect = effect](const DigitInUnit& line) {
                                       return has_consequence(cause, line, *effect.begin());
                                     }),
                 "another chain");
