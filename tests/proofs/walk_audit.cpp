@@ -58,7 +58,7 @@ void WalkAudit::begin(const std::string& puzzle) {
     report("this puzzle was not asked for");
   const std::string solution = test::only_solution(puzzle);
   with_one_solution_ += !solution.empty();
-  walk_.emplace(ProofChecker(puzzle), SolutionGuard(solution));
+  walk_ = Walk{ProofChecker(puzzle), SolutionGuard(solution)};
 }
 
 void WalkAudit::end() {
