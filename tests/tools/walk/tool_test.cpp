@@ -205,7 +205,7 @@ TEST(Walk, AnswersBeforeTheNextLineIsThere) {
   EXPECT_EQ(run.output, "grid " + no_digit + "\nin time\nE completed | 3= 4= 6=\n");
 }
 
-#ifndef __SANITIZE_ADDRESS__  // that sanitizer itself needs more memory than is left here
+#ifndef SUDOKU_SANITIZE  // AddressSanitizer itself needs more memory than is left here
 TEST(Walk, GoesOnWithFewerThreadsWhereTheSystemGrantsNoMore) {
   const ToolRun run =
       run_tool("ulimit -v 300000; printf '" + nearly_full + "\\n' | " SUDOKU_WALK " --jobs 1024");
