@@ -10,6 +10,10 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 rounds=${1:-50} program=${3:-build/bin/sudoku}
 RANDOM=${2:-1}
+if ! [[ $rounds =~ ^[1-9][0-9]*$ ]]; then
+  echo "scripts/end_suddenly.sh: $rounds is no number of rounds" >&2
+  exit 1
+fi
 
 source scripts/display.sh
 
@@ -67,6 +71,7 @@ expected_status() {
 is_whole() { [[ $(tr -d ' \r\n' <"$1" | wc -c) == 81 ]]; }
 
 check_remains() { # STATUS
+  local file
   [[ $1 == "$(expected_status)" ]] || fail "exit status $1"
   compgen -G "$work/data/sudoku/SuDoKu-*.sdk" >/dev/null || fail "no grid was rescued"
   for file in "$work"/data/sudoku/*.sdk "$work"/saved.sdk; do

@@ -29,7 +29,7 @@ debian_entry() {
   while read -r change; do
     fold -s -w 74 <<<"$change" | sed '1s/^/  * /; 2,$s/^/    /; s/ *$//'
   done < <(changes)
-  printf '\n -- the SuDoKu team <team@@host@>  %s\n\n' "$(date -u -R -d "$date 12:00:00Z")"
+  printf '\n -- the SuDoKu team <team@@host@>  %s\n\n' "$(date -u -R -d "$date 00:00:00Z")"
 }
 
 prepare() { # FILE SED-COMMAND: which has to change something

@@ -34,6 +34,17 @@ class Colours : public testing::Test {
     return set;
   }
 
+  /// The link of two cells in a unit, as what the wrap rests on.
+  static Premise link(Unit unit, Cell cell1, Cell cell2) {
+    return DigitInUnit{unit, digit, cells({cell1, cell2})};
+  }
+  /// What the wrap rests on when the colours spread from r1c3; in the order of the cells.
+  std::vector<Premise> premises_of_the_wrap() {
+    colours.paint(Cell{1, 3}.number(), 1);
+    spread_from({1, 3});
+    return find_wrap(position, colours, digit).value().premises;
+  }
+
   Position position;
   ColourTable colours;
 };
@@ -72,6 +83,31 @@ TEST_F(Colours, TheWrapTakesTheDigitFromTheColourThatSeesItself) {
   EXPECT_EQ(find_wrap(position, colours, digit), std::nullopt);
   colours.paint(Cell{1, 3}.number(), -1);
   EXPECT_EQ(find_wrap(position, colours, digit)->losers_of(digit), cells({{1, 1}, {1, 3}}));
+}
+
+TEST_F(Colours, TheWrapRestsOnTheChainBetweenTheCellsThatClash) {
+  keep_in({{1, 3}, {1, 8}, {6, 8}, {6, 1}, {5, 3}, {9, 3}});
+  EXPECT_EQ(premises_of_the_wrap(), (std::vector{link({UnitKind::row, 1}, {1, 3}, {1, 8}),
+                                                 link({UnitKind::column, 8}, {1, 8}, {6, 8}),
+                                                 link({UnitKind::box, 4}, {5, 3}, {6, 1}),
+                                                 link({UnitKind::row, 6}, {6, 1}, {6, 8})}));
+}
+
+TEST_F(Colours, TheWrapRestsOnABranchWhoseEndSeesNoOtherCellOfTheOtherColour) {
+  keep_in({{1, 3}, {1, 8}, {6, 8}, {6, 1}, {5, 3}, {9, 3}, {5, 7}, {8, 7}});
+  EXPECT_EQ(premises_of_the_wrap(), (std::vector{link({UnitKind::row, 1}, {1, 3}, {1, 8}),
+                                                 link({UnitKind::column, 8}, {1, 8}, {6, 8}),
+                                                 link({UnitKind::row, 5}, {5, 3}, {5, 7}),
+                                                 link({UnitKind::box, 6}, {5, 7}, {6, 8}),
+                                                 link({UnitKind::column, 7}, {5, 7}, {8, 7})}));
+}
+
+TEST_F(Colours, TheWrapRestsOnNoBranchWhoseEndSeesTheOtherColourAnyway) {
+  keep_in({{1, 3}, {1, 8}, {6, 8}, {6, 1}, {5, 3}, {9, 3}, {2, 2}, {2, 9}, {3, 7}});
+  EXPECT_EQ(premises_of_the_wrap(), (std::vector{link({UnitKind::row, 1}, {1, 3}, {1, 8}),
+                                                 link({UnitKind::column, 8}, {1, 8}, {6, 8}),
+                                                 link({UnitKind::box, 4}, {5, 3}, {6, 1}),
+                                                 link({UnitKind::row, 6}, {6, 1}, {6, 8})}));
 }
 
 TEST_F(Colours, EveryEmptyCellIsMarkedByItsColour) {

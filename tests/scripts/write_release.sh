@@ -49,7 +49,7 @@ copy_sources
 write 98.7.6 2031-02-03
 expect CMakeLists.txt 'project(SuDoKu VERSION 98.7.6 '
 expect CHANGELOG.md $'## [Unreleased]\n\n## [98.7.6] - 2031-02-03\n\n### Added\n\n- Something new'
-expect packaging/changelog.in $'  * Something new, of which there is so much to tell that it takes more than\n    one line in the package\'s own list.\n  * More.\n\n -- the SuDoKu team <team@@host@>  Mon, 03 Feb 2031 12:00:00 +0000\n\nsudoku-pas-a-pas ('
+expect packaging/changelog.in $'  * Something new, of which there is so much to tell that it takes more than\n    one line in the package\'s own list.\n  * More.\n\n -- the SuDoKu team <team@@host@>  Mon, 03 Feb 2031 00:00:00 +0000\n\nsudoku-pas-a-pas ('
 expect packaging/sudoku-pas-a-pas.metainfo.xml.in \
   $'  <releases>\n    <release version="98.7.6" date="2031-02-03"/>'
 ! grep -q 'The game' "$tree/packaging/changelog.in" || fail "an old change is told as new"
