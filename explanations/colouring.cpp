@@ -104,13 +104,13 @@ std::string tell_trap(const Words& words, const ToldStep& step) {
 
 namespace {
 
-/// Two of the cells that see each other.
+/// Two of the cells that see each other, as two of a colour that clashes do.
 CellSet clashing(const CellSet& cells) {
-  for (const int cell : cells) {
-    const CellSet seen = cells & peers_of(cell);
-    if (!seen.empty()) return {cell, *seen.begin()};
-  }
-  return {};
+  CellSet all;
+  for (const int cell : cells)
+    if (!(cells & peers_of(cell)).empty()) all.insert(cell);
+  const int first = *all.begin();
+  return {first, *(all & peers_of(first)).begin()};
 }
 
 }  // namespace

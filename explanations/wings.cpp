@@ -74,12 +74,11 @@ std::string tell_pivot_wing(const Words& words, const ToldStep& step) {
 
 namespace {
 
-/// The end of the link that the cell of the pair sees, when the other cell sees the other end.
+/// The end of the link that the cell of the pair sees while the other cell sees the other end.
 Cell end_for(const CellSet& ends, int cell, int other) {
-  for (const int end : ends)
-    if (peers_of(cell).contains(end) && !(peers_of(other) & (ends - CellSet{end})).empty())
-      return cell_at(end);
-  return cell_at(*ends.begin());
+  const int first = *ends.begin(), last = *(ends - CellSet{first}).begin();
+  const bool sees_first = peers_of(cell).contains(first) && peers_of(other).contains(last);
+  return cell_at(sees_first ? first : last);
 }
 
 /// "In r4c1 it makes r1c1 a 5; in r4c5 it makes r2c5 a 5. Either way"

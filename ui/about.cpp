@@ -39,9 +39,9 @@ std::string About::text(AboutControl control) const {
     case AboutControl::lblVersion:
       return globals.TitreFenetre;
     case AboutControl::lblCopyright:
-      return notice(Notice::rights, globals.Langue, four_digits(box.year));
+      break;
   }
-  return "";
+  return notice(Notice::rights, globals.Langue, four_digits(box.year));
 }
 
 }  // namespace sdk

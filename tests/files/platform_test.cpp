@@ -68,6 +68,13 @@ TEST_F(Process, IsActiveUntilItEnds) {
   EXPECT_FALSE(has_children());
 }
 
+TEST(SignalName, IsTheSystemsForThoseThatEndTheGame) {
+  EXPECT_EQ(platform::signal_name(SIGTERM), "SIGTERM");
+  EXPECT_EQ(platform::signal_name(SIGHUP), "SIGHUP");
+  EXPECT_EQ(platform::signal_name(SIGINT), "SIGINT");
+  EXPECT_EQ(platform::signal_name(SIGQUIT), "signal 3");
+}
+
 TEST_F(Process, ThatHasEndedIsReportedOnceAndForgotten) {
   const std::uint32_t id = platform::start_process("exit 3");
   std::optional<std::uint32_t> code;

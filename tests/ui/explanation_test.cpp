@@ -90,6 +90,14 @@ TEST_F(ExplanationOfAHint, IsEmptyFromTheStart) {
   EXPECT_FALSE(explanation().picture());
 }
 
+TEST_F(ExplanationOfAHint, StandsForAListenerThatOverridesNothing) {
+  WindowListener deaf;
+  w.set_listener(&deaf);
+  game.draw(three_left);
+  hint();
+  EXPECT_EQ(explanation().size(), 1u);
+}
+
 TEST_F(ExplanationOfAHint, StandsWhenTheQuestionOpensAndStaysAfterNo) {
   game.draw(three_left);
   std::size_t at_question = 0;

@@ -24,9 +24,9 @@ const char* icon_name(Icon icon) {
     case Icon::critical:
       return "critical";
     case Icon::question:
-      return "question";
+      break;
   }
-  return "";
+  return "question";
 }
 
 const char* answer_name(Answer answer) {
@@ -36,9 +36,9 @@ const char* answer_name(Answer answer) {
     case Answer::yes:
       return "yes";
     case Answer::no:
-      return "no";
+      break;
   }
-  return "";
+  return "no";
 }
 
 /// Prints the drawings of a page, one a line.

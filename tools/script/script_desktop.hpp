@@ -29,9 +29,9 @@ class ScriptDesktop final : public PlatformDesktop {
 
   MachineSettings settings;
 
-  /// What happens whenever the program lets pending events run.
+  /// What happens whenever the program lets pending events run; has to be told before it does.
   void set_events(std::function<void()> events) { events_ = std::move(events); }
-  /// What happens while a Yes/No box is open.
+  /// What happens while a Yes/No box is open; has to be told before one is.
   void set_question(std::function<void()> question) { question_ = std::move(question); }
   /// Answers are taken in the order in which they were queued.
   void queue_answer(Answer answer, long times) {
@@ -69,8 +69,7 @@ class ScriptDesktop final : public PlatformDesktop {
 
   std::ostream& out_;
   std::ostream& errors_;
-  std::function<void()> events_ = [] {};
-  std::function<void()> question_ = [] {};
+  std::function<void()> events_, question_;
   std::deque<Answer> answers_;
   std::deque<std::string> files_;
   Pointer pointer_ = Pointer::arrow;

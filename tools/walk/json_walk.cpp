@@ -109,9 +109,9 @@ Json step_of(const Event& event) {
     case EventKind::completed:
       return {{"step", "end"}, {"end", "completed"}};
     case EventKind::exhausted:
-      return {{"step", "end"}, {"end", "exhausted"}};
+      break;
   }
-  return nullptr;
+  return {{"step", "end"}, {"end", "exhausted"}};
 }
 
 }  // namespace

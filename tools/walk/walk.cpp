@@ -59,9 +59,9 @@ std::string told(const Event& event) {
     case EventKind::dead:
       return told_dead_end(event.deduction);
     case EventKind::exhausted:
-      return "E exhausted";
+      break;
   }
-  return "";
+  return "E exhausted";
 }
 
 /// Writes the lines of events one after the other.

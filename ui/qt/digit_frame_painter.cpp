@@ -21,15 +21,7 @@ constexpr int radius = 7;
 }  // namespace
 
 QColor frame_colour(DigitFrame frame) {
-  switch (frame) {
-    case DigitFrame::none:
-      return Qt::transparent;
-    case DigitFrame::equal:
-      return equal_colour;
-    case DigitFrame::clash:
-      return clash_colour;
-  }
-  return {};
+  return frame == DigitFrame::clash ? clash_colour : equal_colour;
 }
 
 void paint_digit_frame(QPainter& painter, const QRect& square, DigitFrame frame, bool in_border) {

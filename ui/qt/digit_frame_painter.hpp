@@ -14,7 +14,7 @@ class QRect;
 namespace sdk {
 
 /// Stands out by 3 to 1 on every background that a cell of the puzzle can have, selected or not.
-/// Transparent for no frame.
+/// The frame must not be DigitFrame::none.
 QColor frame_colour(DigitFrame frame);
 
 /// Frames a cell of side cell_side; `in_border` leaves room for the border of the current cell. The

@@ -146,6 +146,12 @@ class GuideTest : public QObject {
     }
   }
 
+  void a_position_that_does_not_lead_to_its_technique_is_a_fault() {
+    GuidePosition position = position_named("xy_wing");
+    position.technique = position_named("jellyfish").technique;
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, steps_to(position));
+  }
+
   void every_technique_has_a_position_and_the_unique_rectangle_one_a_rule() {
     for (std::size_t row = 0; row < row_count; ++row)
       QVERIFY2(std::ranges::count(positions(), technique_at(row).id, &GuidePosition::technique) > 0,

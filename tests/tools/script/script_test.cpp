@@ -160,6 +160,7 @@ TEST(Script, MalformedCommandsAreFaults) {
                            "at x key 1",
                            "at 1 unheard",
                            "at 1 key Tab",
+                           "at 1 start",
                            "at question",
                            "at question unheard",
                            "at question key 1",

@@ -3,6 +3,7 @@
 
 // How the buttons above the grids stand and look.
 
+#include <QPainter>
 #include <QToolButton>
 
 #include "tests/ui/qt/play.hpp"
@@ -53,6 +54,19 @@ class ButtonRowTest : public QObject {
       QVERIFY2(button.autoRaise(), name);
       QCOMPARE(button.icon().pixmap(28, 28).size(), QSize(28, 28));
     }
+  }
+
+  void an_icon_is_painted_as_its_picture_is_and_so_is_its_copy() {
+    const QIcon icon = play_->find<QToolButton>("Command1").icon();
+    QImage painted(28, 28, QImage::Format_ARGB32_Premultiplied);
+    painted.fill(Qt::transparent);
+    QPainter painter(&painted);
+    icon.paint(&painter, painted.rect());
+    painter.end();
+    QCOMPARE(painted, icon.pixmap(28, 28).toImage());
+    QIcon copy = icon;
+    copy.addPixmap(QPixmap(1, 1));  // from now on the copy has an engine of its own
+    QCOMPARE(copy.pixmap(28, 28).toImage(), painted);
   }
 
   void no_two_buttons_look_alike() {

@@ -190,6 +190,19 @@ class ExplanationTest : public QObject {
     }
   }
 
+  void page_keys_scroll_the_steps_and_choose_none() {
+    hint();
+    QScrollBar& bar = *list().verticalScrollBar();
+    list().setFocus();
+    bar.setValue(bar.maximum());
+    play_->press(Qt::Key_PageUp);
+    const int above = bar.value();
+    QVERIFY(above < bar.maximum());
+    play_->press(Qt::Key_PageDown);
+    QVERIFY(bar.value() > above);
+    QCOMPARE(chosen(), Step());
+  }
+
   void tab_comes_to_the_steps_after_the_options() {
     hint();
     play_->find("Niveau").setFocus();

@@ -215,6 +215,23 @@ class SmallScreenTest : public QObject {
     QVERIFY(!open_dialog());
   }
 
+  void the_question_moves_off_its_cell() {
+    play_->draw(
+        "1234.6789\n.........\n.........\n.........\n.........\n"
+        ".........\n.........\n.........\n.........");
+    go_to_small_screen();
+    later(50, [&] {
+      play_->settle();
+      const QWidget& grid = play_->find("MSF");
+      const QRect cell = square(1, 5).translated(grid.mapToGlobal(QPoint()));
+      QVERIFY(sees(grid, square(1, 5)));
+      QVERIFY(!open_dialog()->frameGeometry().intersects(cell));
+      QTest::keyClick(open_dialog(), Qt::Key_Escape);
+    });
+    play_->click("Command8");
+    QVERIFY(!open_dialog());
+  }
+
  private:
   static void both_layouts() {
     QTest::addColumn<bool>("wide");

@@ -148,6 +148,16 @@ class TypingTest : public QObject {
     QCOMPARE(play_->window.MSF.selection(), (CellRange{1, 1, 5, 6}));
   }
 
+  /// Two quick clicks beside the line between two cells are a double click for the system.
+  void the_second_of_two_quick_clicks_chooses_its_own_cell() {
+    QWidget* cells = play_->find<GridView>("MSF").viewport();
+    play_->click_cell(4, 4);
+    QMouseEvent second(QEvent::MouseButtonDblClick, play_->cell(4, 5),
+                       cells->mapToGlobal(play_->cell(4, 5)), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(cells, &second);
+    QCOMPARE(play_->window.MSF.selection(), (CellRange{3, 4, 3, 4}));
+  }
+
   void the_view_shows_the_current_cell_and_the_selection_of_the_core() {
     auto& view = play_->find<GridView>("MSF");
     play_->window.MSF.select(2, 3, 4, 5);
