@@ -266,6 +266,16 @@ TEST_F(ColourProcedures, TheTrapAndTheWrapTellWhatTheyDid) {
   EXPECT_FALSE(piege_couleurs(5));
 }
 
+TEST_F(ColourProcedures, TheWrapTellsThatItTookTheDigitAway) {
+  keep_in({{1, 1}, {1, 3}, {2, 2}});
+  Couleur.paint(Cell{1, 1}.number(), 1);
+  Couleur.paint(Cell{2, 2}.number(), 1);
+  EXPECT_TRUE(enveloppe_couleurs(5));
+  EXPECT_FALSE(Candidats.has({1, 1}, 5));
+  EXPECT_FALSE(Candidats.has({2, 2}, 5));
+  EXPECT_TRUE(Candidats.has({1, 3}, 5));
+}
+
 TEST_F(ColourProcedures, EveryEmptyCellIsMarkedByItsColour) {
   keep_in({{1, 1}, {1, 3}});
   marque_case(5, 5, 3);
