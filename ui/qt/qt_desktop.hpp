@@ -20,7 +20,7 @@ namespace sdk {
 class MainFrame;
 
 /// Every call that runs an event loop throws ProgramEnd when the player ended the program in it.
-class QtDesktop final : public PlatformDesktop {
+class QtDesktop : public PlatformDesktop {
  public:
   /// `guard` must outlive the desktop.
   explicit QtDesktop(const ProgramGuard& guard) : guard_(guard) {}

@@ -17,14 +17,24 @@
 
 namespace sdk::test {
 
-/// The game as main() starts it, shown and with the focus.
+/// Every run of a test has the same puzzles.
+class RepeatableDesktop final : public QtDesktop {
+ public:
+  using QtDesktop::QtDesktop;
+  std::uint32_t random_seed() override { return ++seed_; }
+
+ private:
+  std::uint32_t seed_ = 0;
+};
+
+/// The game as main() starts it, but for its chance, shown and with the focus.
 class Play {
  public:
   /// `command_line` names the file that is opened, if any; finish_start is not called.
   explicit Play(const std::string& command_line = "");
 
   ProgramGuard guard;
-  QtDesktop desktop{guard};
+  RepeatableDesktop desktop{guard};
   MainWindow window{desktop};
   MainFrame frame{window, guard};
 

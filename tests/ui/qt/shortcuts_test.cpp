@@ -178,7 +178,7 @@ class ShortcutsTest : public QObject {
   QString shown() { return play_->text(row_, column_); }
   void draw_a_grid_with_a_hint() {
     play_->draw(
-        ".23456789\n.........\n.........\n.........\n.........\n.........\n.........\n"
+        "12345678.\n.........\n.........\n.........\n.........\n.........\n.........\n"
         ".........\n.........\n");
   }
 
