@@ -19,9 +19,6 @@ constexpr int square_side = 36, square_font_size = 14;
 QStyleOptionMenuItem look_of(const CellMenuItem& item) {
   QStyleOptionMenuItem look;
   look.initFrom(&item);
-  look.menuItemType = QStyleOptionMenuItem::Normal;
-  look.checkType = QStyleOptionMenuItem::NotCheckable;
-  look.menuRect = look.rect;
   look.font = item.font();
   look.state.setFlag(QStyle::State_Selected, item.hasFocus());
   return look;
@@ -42,7 +39,6 @@ CellMenuItem::CellMenuItem(Shape shape, const QString& keys, QWidget* parent)
 void CellMenuItem::set_name(const QString& name) {
   setText(name);
   set_accessible_name(*this, name);
-  updateGeometry();
 }
 
 QSize CellMenuItem::sizeHint() const {
