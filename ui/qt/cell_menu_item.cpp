@@ -45,7 +45,6 @@ QSize CellMenuItem::sizeHint() const {
   if (shape_ == Shape::square) return {square_side, square_side};
   QStyleOptionMenuItem look = look_of(*this);
   look.text = text();
-  look.reservedShortcutWidth = fontMetrics().horizontalAdvance(keys_);
   const QSize text_size = fontMetrics().size(Qt::TextSingleLine, look.text + '\t' + keys_);
   return style()->sizeFromContents(QStyle::CT_MenuItem, &look, text_size, this);
 }

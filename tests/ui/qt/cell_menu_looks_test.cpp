@@ -249,6 +249,14 @@ class CellMenuLooksTest : public QObject {
     }
   }
 
+  void a_press_that_closes_it_does_nothing_else() {
+    QVERIFY(menu().testAttribute(Qt::WA_NoMouseReplay));
+    open();
+    QTest::mouseClick(menu().windowHandle(), Qt::LeftButton, {}, {-30, -30});
+    play_->settle();
+    QVERIFY(!menu().isVisible());
+  }
+
   void a_right_click_beside_the_window_closes_it() {
     play_->frame.move(0, 0);
     open();
@@ -314,10 +322,10 @@ class CellMenuLooksTest : public QObject {
     close();
     return opened;
   }
+  /// Before it has been open.
   QSize size_of_menu() {
-    open();
-    close();
-    return menu().size();
+    menu().show_state(play_->window);
+    return menu().sizeHint();
   }
 
   /// Of those that are as wide as the menu and 7 pixels high.
