@@ -130,7 +130,6 @@ void CellMenu::show_state(const MainWindow& window) {
 
 void CellMenu::open(const QRect& place, bool by_key) {
   column_ = 0;
-  layout()->activate();
   setFixedSize(sizeHint());
   move(corner_of_menu(place, size(), room_around(place.center())));
   show();
@@ -145,7 +144,6 @@ void CellMenu::paintEvent(QPaintEvent*) {
   painter.drawPrimitive(QStyle::PE_PanelMenu, panel);
   QStyleOptionFrame frame;
   frame.initFrom(this);
-  frame.lineWidth = 1;
   painter.drawPrimitive(QStyle::PE_FrameMenu, frame);
 }
 

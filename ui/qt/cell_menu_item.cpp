@@ -19,9 +19,6 @@ constexpr int square_side = 36, square_font_size = 14;
 QStyleOptionMenuItem look_of(const CellMenuItem& item) {
   QStyleOptionMenuItem look;
   look.initFrom(&item);
-  look.menuItemType = QStyleOptionMenuItem::Normal;
-  look.checkType = QStyleOptionMenuItem::NotCheckable;
-  look.menuRect = look.rect;
   look.font = item.font();
   look.state.setFlag(QStyle::State_Selected, item.hasFocus());
   return look;
@@ -42,14 +39,12 @@ CellMenuItem::CellMenuItem(Shape shape, const QString& keys, QWidget* parent)
 void CellMenuItem::set_name(const QString& name) {
   setText(name);
   set_accessible_name(*this, name);
-  updateGeometry();
 }
 
 QSize CellMenuItem::sizeHint() const {
   if (shape_ == Shape::square) return {square_side, square_side};
   QStyleOptionMenuItem look = look_of(*this);
   look.text = text();
-  look.reservedShortcutWidth = fontMetrics().horizontalAdvance(keys_);
   const QSize text_size = fontMetrics().size(Qt::TextSingleLine, look.text + '\t' + keys_);
   return style()->sizeFromContents(QStyle::CT_MenuItem, &look, text_size, this);
 }

@@ -71,9 +71,7 @@ void GridView::set_up_table() {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setAutoScroll(false);
-  setEditTriggers(NoEditTriggers);
   setSelectionMode(ContiguousSelection);
-  setTabKeyNavigation(false);
 }
 
 void GridView::set_accessible_name(const QString& name) {
@@ -175,12 +173,6 @@ void GridView::go_to(const QModelIndex& index, bool extend) {
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
   tell_focus_.ask();  // after Qt told that the grid as a whole got it
-  viewport()->update();
-}
-
-void GridView::focusOutEvent(QFocusEvent* event) {
-  QTableView::focusOutEvent(event);
-  viewport()->update();
 }
 
 }  // namespace sdk

@@ -89,8 +89,7 @@ bool SmallScreen::scrolls_for(QObject* watched, QEvent* event) {
 /// A window learns of its frame when the frame moves it.
 bool SmallScreen::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::Show) follow_screen();
-  if (event->type() == QEvent::Show || event->type() == QEvent::Move)
-    if (adapt()) emit moved();
+  if (event->type() == QEvent::Move && adapt()) emit moved();
   return false;
 }
 

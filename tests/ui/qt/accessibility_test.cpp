@@ -208,6 +208,35 @@ class AccessibilityTest : public QObject {
     QCOMPARE(spoken("MSR", 1, 9), "ligne 1, colonne 9: 9, appui");
   }
 
+  void a_chosen_step_tells_the_cells_that_it_changes() {
+    play_->click("Check2");
+    play_->draw("12345678.\n" + std::string(72, '.'));
+    BoxAnswer no(QMessageBox::No);
+    play_->click("Command8");
+    play_->settle();
+    reader_->forget();
+    play_->window.choose_step(0);
+    play_->settle();
+    QVERIFY(!cells_told(QAccessible::NameChanged).isEmpty());
+  }
+
+  void a_search_that_lasts_is_announced() {
+    play_->draw(
+        "........9\n.........\n.........\n.........\n.........\n"
+        ".........\n.........\n.........\n12345678.");
+    BoxAnswer stopped(QMessageBox::Ok);
+    reader_->forget();
+    later(600, [this] {
+      QCOMPARE(reader_->names(QAccessible::Alert, QAccessible::StaticText),
+               QStringList{"Recherche en cours… Échap l'arrête."});
+      play_->press(Qt::Key_F1);
+      QCOMPARE(reader_->names(QAccessible::Alert, QAccessible::StaticText).size(), 1);
+      play_->press(Qt::Key_Escape);
+    });
+    QCOMPARE(play_->run_program([this] { play_->click("Bouton_GO"); }), -1);
+    QVERIFY(stopped.was_shown());
+  }
+
   void rows_and_columns_have_names() {
     const auto tree = accessible_tree(find("MSF"));
     QCOMPARE(names_of(tree, QAccessible::RowHeader).value(8), "ligne 9");

@@ -129,6 +129,11 @@ class DigitKeysTest : public QObject {
     QCOMPARE(code_of({44, Qt::Key_4, "4", {}, alt_gr}), int('4'));
   }
 
+  void the_other_modifiers_of_the_system_change_no_place() {
+    for (const quint32 modifiers : {0x01u, 0x02u, 0x10u, 0x7fu})
+      QCOMPARE(code_of({11, 0xE9, QString(QChar(0xE9)), {}, modifiers}), int('2'));
+  }
+
   void keys_with_a_name_keep_their_meaning_in_the_digit_row() {
     QCOMPARE(code_of({10, Qt::Key_Backspace, "\b", {}}), key::backspace);
     QCOMPARE(code_of({10, Qt::Key_Delete, "\x7f", {}}), key::del);

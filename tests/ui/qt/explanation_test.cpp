@@ -300,6 +300,90 @@ class ExplanationTest : public QObject {
     }
   }
 
+  void the_sentences_are_wrapped_anew_for_another_room() {
+    hint();
+    for (int round = 0; round < 2; ++round) {
+      play_->click("Check2");
+      QCOMPARE(row(0).width(), list().viewport()->width());
+      QCOMPARE(row(0).height(), list().sizeHintForIndex(list().model()->index(0, 0)).height());
+      QVERIFY(row(1).top() >= 0 && row(1).top() < list().viewport()->height());
+    }
+  }
+
+  void what_the_player_scrolled_to_stays_in_view() {
+    hint();
+    list().verticalScrollBar()->setValue(0);
+    play_->click("Check1");
+    QCOMPARE(list().verticalScrollBar()->value(), 0);
+    click_button("previous_step");
+    QVERIFY(list().verticalScrollBar()->value() > 0);
+    list().verticalScrollBar()->setValue(0);
+    play_->click("Check1");
+    QCOMPARE(list().verticalScrollBar()->value(), 0);
+    click_button("next_step");
+    QCOMPARE(chosen(), Step());
+    QCOMPARE(list().verticalScrollBar()->value(), 0);
+  }
+
+  void up_and_down_scroll_a_long_sentence_by_a_line() {
+    hint();
+    list().setFocus();
+    play_->press(Qt::Key_Home);
+    const int line = list().fontMetrics().lineSpacing();
+    for (const auto& [key, lines] :
+         {std::pair(Qt::Key_Down, 1), {Qt::Key_Down, 2}, {Qt::Key_Up, 1}, {Qt::Key_Up, 0}}) {
+      play_->press(key);
+      QCOMPARE(list().verticalScrollBar()->value(), lines * line);
+      QCOMPARE(chosen(), Step(0));
+    }
+    play_->press(Qt::Key_Up);
+    QCOMPARE(chosen(), Step());
+  }
+
+  void page_keys_scroll_and_choose_nothing() {
+    hint();
+    list().setFocus();
+    QScrollBar& bar = *list().verticalScrollBar();
+    bar.setValue(0);
+    play_->press(Qt::Key_PageDown);
+    QCOMPARE(bar.value(), bar.pageStep());
+    play_->press(Qt::Key_PageUp);
+    QCOMPARE(bar.value(), 0);
+    QCOMPARE(chosen(), Step());
+  }
+
+  void the_language_keys_leave_the_step_chosen() {
+    hint();
+    list().setFocus();
+    play_->press(Qt::Key_Home);
+    for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
+      play_->press(key);
+      QCOMPARE(chosen(), Step(0));
+    }
+  }
+
+  void escape_elsewhere_leaves_the_step_chosen() {
+    hint();
+    click_button("next_step");
+    for (const char* name : {"MSF", "Check1"}) {
+      play_->find(name).setFocus();
+      play_->press(Qt::Key_Escape);
+      QCOMPARE(chosen(), Step(0));
+    }
+  }
+
+  void the_whole_of_a_long_sentence_is_told_at_the_mouse() {
+    play_->click("Check2");
+    hint();
+    help_for(0);
+    const QPoint mouse = list().viewport()->mapToGlobal(row(0).topLeft() + QPoint(5, 5));
+    for (const QWidget* tip : QApplication::topLevelWidgets())
+      if (tip->inherits("QTipLabel")) {
+        QVERIFY(tip->isVisible());
+        QVERIFY(QRect(mouse, QSize(1, 1)).adjusted(-40, -40, 40, 40).intersects(tip->geometry()));
+      }
+  }
+
  private:
   QWidget& panel() { return play_->find("explanation"); }
   StepList& list() { return play_->find<StepList>("steps"); }

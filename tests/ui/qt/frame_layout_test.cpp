@@ -89,6 +89,12 @@ class FrameLayoutTest : public QObject {
     QCOMPARE(play_->frame.minimumSize(), play_->frame.size());
   }
 
+  void it_is_in_the_middle_of_the_screen_from_the_start() {
+    const QPoint off =
+        play_->frame.geometry().center() - play_->frame.screen()->availableGeometry().center();
+    QVERIFY(std::abs(off.x()) <= 2 && std::abs(off.y()) <= 2);
+  }
+
   void it_opens_in_the_middle_of_the_screen() {
     play_->frame.move(0, 0);
     play_->frame.centre_on_screen();

@@ -3,6 +3,8 @@
 
 // The frames of the puzzle's cells, as the player sees them.
 
+#include <QPainter>
+
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
 #include "ui/qt/digit_frame_painter.hpp"
@@ -107,6 +109,52 @@ class FramesTest : public QObject {
     QVERIFY(is_framed(1, 2, DigitFrame::clash));
   }
 
+  void a_frame_is_2_pixels_wide_and_clear_of_the_lines_or_of_the_border() {
+    for (const DigitFrame frame : {DigitFrame::clash, DigitFrame::equal})
+      for (const bool in_border : {false, true}) {
+        const QImage image = drawn(frame, in_border);
+        const int first = in_border ? in_the_current_cell : in_a_cell;
+        for (int in = 0; in < 10; ++in) {
+          const bool inked = in == first || in == first + 1;
+          const QColor expected = inked ? frame_colour(frame) : QColor(Qt::white);
+          for (const QPoint& at :
+               {QPoint(in, 26), QPoint(26, in), QPoint(51 - in, 26), QPoint(26, 51 - in)})
+            QCOMPARE(image.pixelColor(at), expected);
+        }
+      }
+  }
+
+  void a_clash_has_sharp_corners_and_an_equal_digit_round_ones() {
+    const QImage sharp = drawn(DigitFrame::clash), round = drawn(DigitFrame::equal);
+    for (const QPoint& corner : {QPoint(2, 2), QPoint(49, 2), QPoint(2, 49), QPoint(49, 49)})
+      QCOMPARE(sharp.pixelColor(corner), frame_colour(DigitFrame::clash));
+    const QColor colour = frame_colour(DigitFrame::equal);
+    QCOMPARE(round.pixelColor(10, 2), colour);
+    QCOMPARE(round.pixelColor(5, 2), QColor(Qt::white));
+    QCOMPARE(round.pixelColor(3, 3), QColor(Qt::white));
+    QVERIFY(round.pixelColor(8, 2) != colour && round.pixelColor(8, 2) != QColor(Qt::white));
+  }
+
+  void the_frames_are_dark_red_and_dark_blue_green() {
+    QCOMPARE(frame_colour(DigitFrame::clash), QColor(0xc0, 0, 0));
+    QCOMPARE(frame_colour(DigitFrame::equal), QColor(0, 0x66, 0x70));
+    QCOMPARE(frame_colour(DigitFrame::none), QColor(Qt::transparent));
+  }
+
+  void a_frame_leaves_its_cell_empty_and_the_painter_as_it_was() {
+    QImage image(cell_side, cell_side, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setBrush(Qt::yellow);
+    const QPen pen = painter.pen();
+    paint_digit_frame(painter, image.rect(), DigitFrame::none, false);
+    QCOMPARE(image.pixelColor(2, 26), QColor(Qt::white));
+    paint_digit_frame(painter, image.rect(), DigitFrame::equal, false);
+    QCOMPARE(image.pixelColor(26, 26), QColor(Qt::white));
+    QCOMPARE(painter.pen(), pen);
+    QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
+  }
+
   void the_candidates_are_not_framed() {
     play_->click("Check2");
     play_->type("2");
@@ -162,6 +210,15 @@ class FramesTest : public QObject {
   }
 
  private:
+  /// Alone, on white.
+  static QImage drawn(DigitFrame frame, bool in_border = false) {
+    QImage image(cell_side, cell_side, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paint_digit_frame(painter, image.rect(), frame, in_border);
+    return image;
+  }
+
   /// Lets the window follow, and looks.
   QImage picture() {
     play_->settle();

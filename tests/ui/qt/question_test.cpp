@@ -85,6 +85,18 @@ class QuestionTest : public QObject {
     });
   }
 
+  void escape_that_leaves_a_step_goes_no_further() {
+    ask([this] {
+      press(Qt::Key_Backtab, Qt::ShiftModifier);
+      press(Qt::Key_Space);
+      press(Qt::Key_Escape);
+      QCOMPARE(chosen(), Step());
+      QCOMPARE(focus_name(), "next_step");
+      press(Qt::Key_F1);
+      QCOMPARE(focus_name(), "next_step");
+    });
+  }
+
   void the_window_that_comes_to_the_front_gives_the_keys_to_the_list() {
     ask([this] {
       play_->frame.activateWindow();

@@ -3,11 +3,13 @@
 
 // What the player can do, and what he sees, while a search runs.
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QToolButton>
 
 #include "tests/ui/qt/play.hpp"
+#include "ui/qt/long_search.hpp"
 #include "ui/state_check.hpp"
 
 namespace sdk::test {
@@ -222,6 +224,37 @@ class SearchTest : public QObject {
     });
     search_and([] {});
     QVERIFY(stopped.was_shown());
+  }
+
+  void the_notice_is_bold() {
+    QVERIFY(notice().font().bold());
+    QVERIFY(notice().wordWrap());
+  }
+
+  void a_search_that_is_over_soon_is_never_noticed() {
+    int changes = 0;
+    LongSearch search([&] { ++changes; });
+    search.set_searches(1);
+    search.set_searches(0);
+    QTest::qWait(400);
+    QVERIFY(!search.is_noticed());
+    QCOMPARE(changes, 0);
+  }
+
+  void searches_within_a_search_do_not_put_its_notice_off() {
+    int changes = 0;
+    LongSearch search([&] { ++changes; });
+    QElapsedTimer time;
+    time.start();
+    for (int running = 1; !search.is_noticed() && time.elapsed() < 3000; ++running) {
+      search.set_searches(running);
+      QTest::qWait(20);
+    }
+    QVERIFY(search.is_noticed());
+    QVERIFY(time.elapsed() >= 280);
+    search.set_searches(0);
+    QVERIFY(!search.is_noticed());
+    QCOMPARE(changes, 2);
   }
 
   void the_steps_of_a_hint_come_back_after_the_search() {

@@ -5,6 +5,7 @@
 
 #include <QListView>
 #include <QPainter>
+#include <QStaticText>
 #include <QStringListModel>
 
 #include "tests/ui/qt/play.hpp"
@@ -89,6 +90,29 @@ class SentencePaintingTest : public QObject {
     QVERIFY(!has(below, ink));
   }
 
+  void number_and_text_stand_4_pixels_inside_the_row_and_1_below_its_edge() {
+    const QString words = QString("word ").repeated(30).trimmed();
+    model_.setStringList({"1. " + words});
+    QStyleOptionViewItem look = option(0, QStyle::State_Active);
+    const int indent = 4 + metrics().horizontalAdvance("1. ");
+    const QStaticText text = wrapped(words, 200 - indent - 4);
+    QCOMPARE(look.rect.height(), qCeil(text.size().height()) + 2);
+    look.rect.translate(10, 20);
+    QImage expected(220, look.rect.height() + 30, QImage::Format_RGB32), found;
+    expected.fill(paper);
+    found = expected;
+    {
+      QPainter painter(&expected);
+      painter.setFont(view_.font());
+      painter.setPen(ink);
+      painter.drawText(QRect(14, 21, 100, 100), Qt::AlignLeft, "1. ");
+      painter.drawStaticText(10 + indent, 21, text);
+    }
+    QPainter painter(&found);
+    delegate_.paint(&painter, look, model_.index(0, 0));
+    QCOMPARE(found, expected);
+  }
+
   void a_short_sentence_takes_one_line() {
     const int height = delegate_.sizeHint(option(0, {}), model_.index(0, 0)).height();
     QVERIFY(height >= metrics().height() + 2 && height <= metrics().height() + 4);
@@ -126,6 +150,14 @@ class SentencePaintingTest : public QObject {
 
  private:
   QFontMetrics metrics() const { return QFontMetrics(view_.font()); }
+
+  QStaticText wrapped(const QString& words, int width) const {
+    QStaticText text(words);
+    text.setTextFormat(Qt::PlainText);
+    text.setTextWidth(width);
+    text.prepare({}, view_.font());
+    return text;
+  }
 
   QStyleOptionViewItem option(int row, QStyle::State state) const {
     QStyleOptionViewItem option;

@@ -148,14 +148,66 @@ class TypingTest : public QObject {
     QCOMPARE(play_->window.MSF.selection(), (CellRange{1, 1, 5, 6}));
   }
 
-  /// Two quick clicks beside the line between two cells are a double click for the system.
-  void the_second_of_two_quick_clicks_chooses_its_own_cell() {
+  void a_drag_beyond_the_grid_selects_to_its_edge() {
+    for (const auto& [place, range] : {std::pair(QPoint(-70, 900), CellRange{5, 0, 8, 6}),
+                                       {QPoint(900, -70), CellRange{0, 6, 5, 8}}}) {
+      play_->click_cell(6, 7);
+      drag(place, Qt::LeftButton);
+      QCOMPARE(play_->window.MSF.selection(), range);
+    }
+  }
+
+  void only_the_left_button_drags() {
+    play_->click_cell(6, 7);
+    for (const Qt::MouseButton button : {Qt::NoButton, Qt::RightButton}) {
+      drag(play_->cell(2, 2), button);
+      QCOMPARE(play_->window.MSF.selection(), (CellRange{5, 6, 5, 6}));
+    }
+  }
+
+  void the_second_of_two_quick_clicks_counts_too() {
     QWidget* cells = play_->find<GridView>("MSF").viewport();
-    play_->click_cell(4, 4);
-    QMouseEvent second(QEvent::MouseButtonDblClick, play_->cell(4, 5),
-                       cells->mapToGlobal(play_->cell(4, 5)), Qt::LeftButton, Qt::LeftButton, {});
-    QApplication::sendEvent(cells, &second);
-    QCOMPARE(play_->window.MSF.selection(), (CellRange{3, 4, 3, 4}));
+    play_->click_cell(2, 2);
+    QMouseEvent event(QEvent::MouseButtonDblClick, play_->cell(2, 3),
+                      cells->mapToGlobal(play_->cell(2, 3)), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(cells, &event);
+    QCOMPARE(play_->window.MSF.selection(), (CellRange{1, 2, 1, 2}));
+  }
+
+  void the_left_button_alone_is_told_down_and_up() {
+    auto& view = play_->find<GridView>("MSF");
+    const QSignalSpy told(&view, &GridView::button_pressed_or_released);
+    for (const auto& [button, count] : {std::pair(Qt::LeftButton, 1), {Qt::RightButton, 2}}) {
+      QTest::mousePress(view.viewport(), button, {}, play_->cell(3, 3));
+      QCOMPARE(told.count(), count);
+      QTest::mouseRelease(view.viewport(), button, {}, play_->cell(3, 3));
+      QCOMPARE(told.count(), 2);
+    }
+  }
+
+  void the_lines_are_drawn_again_when_the_button_goes_up() {
+    QWidget* cells = play_->find<GridView>("MSF").viewport();
+    QTest::mousePress(cells, Qt::LeftButton, {}, play_->cell(3, 3));
+    play_->settle();
+    const Paints lines(play_->find("lines"));
+    QTest::mouseRelease(cells, Qt::LeftButton, {}, play_->cell(3, 3));
+    play_->settle();
+    QCOMPARE(lines.count, 1);
+  }
+
+  void an_arrow_moves_from_where_the_game_has_just_gone() {
+    play_->window.MSF.make_current(4, 4);
+    QTest::keyClick(&play_->find("MSF"), Qt::Key_Right);
+    QCOMPARE(play_->window.MSF.selection(), (CellRange{4, 5, 4, 5}));
+  }
+
+  void a_click_in_the_candidates_leaves_the_focus_in_the_puzzle() {
+    play_->click("Check2");
+    QTest::mouseClick(play_->find<GridView>("MSR").viewport(), Qt::LeftButton, {},
+                      play_->cell(3, 3));
+    QVERIFY(play_->find("MSF").hasFocus());
+    QCOMPARE(play_->window.MSR.current_row(), 2);
+    QCOMPARE(play_->find("MSR").focusPolicy(), Qt::TabFocus);
   }
 
   void the_view_shows_the_current_cell_and_the_selection_of_the_core() {
@@ -282,6 +334,13 @@ class TypingTest : public QObject {
   }
 
  private:
+  void drag(QPoint place, Qt::MouseButton button) {
+    QWidget* cells = play_->find<GridView>("MSF").viewport();
+    QMouseEvent event(QEvent::MouseMove, place, cells->mapToGlobal(place), Qt::NoButton, button,
+                      {});
+    QApplication::sendEvent(cells, &event);
+  }
+
   std::optional<Play> play_;
 };
 
