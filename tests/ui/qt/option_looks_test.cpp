@@ -44,6 +44,7 @@ class OptionLooksTest : public QObject {
     for (const char* name : boxes) {
       const int difference = inside_of(play_->find(name)).lightness() - window.lightness();
       QVERIFY2(difference >= 40 && difference <= 100, qPrintable(QString::number(difference)));
+      QCOMPARE(inside_of(play_->find(name)), window.lighter(200));
     }
   }
 
@@ -81,6 +82,46 @@ class OptionLooksTest : public QObject {
     QVERIFY(levels.grab().toImage() != chosen);
     levels.setCurrentIndex(4);
     QVERIFY(levels.grab().toImage() != chosen);
+  }
+
+  void the_easiest_level_is_shown_when_it_is_chosen() {
+    auto& levels = play_->find<QComboBox>("Niveau");
+    levels.setPlaceholderText(levels.itemText(0));
+    levels.setCurrentIndex(0);
+    const QImage chosen = levels.grab().toImage();
+    levels.setPlaceholderText(levels.itemText(3));
+    QCOMPARE(levels.grab().toImage(), chosen);
+  }
+
+  void the_list_is_as_wide_as_its_levels_in_either_language() {
+    const QWidget& levels = play_->find("Niveau");
+    const QFontMetrics metrics = levels.fontMetrics();
+    play_->press(Qt::Key_F2);
+    const int french = levels.width();
+    const int more =
+        metrics.horizontalAdvance("Diabolique") - metrics.horizontalAdvance("Diabolic");
+    play_->press(Qt::Key_F1);
+    QTRY_COMPARE_WITH_TIMEOUT(levels.width(), french - more, 2000);
+    play_->press(Qt::Key_F2);
+    QTRY_COMPARE_WITH_TIMEOUT(levels.width(), french, 2000);
+  }
+
+  void a_box_says_what_it_does_under_the_pointer() {
+    for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
+      play_->press(key);
+      for (const char* name : boxes)
+        QCOMPARE(play_->find(name).toolTip(), play_->find<QCheckBox>(name).text());
+    }
+  }
+
+  void the_options_fill_their_band_from_edge_to_edge() {
+    QCOMPARE(play_->find("Check3").pos(), QPoint(0, 0));
+    QCOMPARE(play_->find("Astuce").geometry().bottom(), play_->find("options").height() - 1);
+    const int above = play_->find("Niveau").y() - play_->find("Check3").geometry().bottom();
+    const int below = play_->find("Astuce").y() - play_->find("Niveau").geometry().bottom();
+    QVERIFY(std::abs(above - below) <= 1);
+    for (const char* name : {"Label", "Astuce"})
+      QCOMPARE(play_->find(name).width(), play_->find(name).sizeHint().width());
   }
 
   void the_boxes_stand_in_a_row_from_the_left() {
