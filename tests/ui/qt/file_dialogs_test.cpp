@@ -77,6 +77,19 @@ QString text_of_file(const QString& file) {
 class FileDialogsTest : public QObject {
   Q_OBJECT
 
+ private:
+  /// What `look` sees in the dialog of a button, which is then cancelled.
+  template <class Look>
+  auto seen_in(const char* button, Look look) {
+    decltype(look(std::declval<QFileDialog&>())) seen;
+    in_file_dialog([&](QFileDialog& dialog) {
+      seen = look(dialog);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    play_->click(button);
+    return seen;
+  }
+
  private slots:
   void init() {
     home_.emplace();
@@ -119,9 +132,10 @@ class FileDialogsTest : public QObject {
   }
 
   void it_lists_the_files_of_its_kind_and_names_the_kind_without_its_pattern() {
-    for (const auto& [button, kind, pattern] : {std::tuple("Command6", "Puzzle SuDoKu", "*.sdk"),
-                                                {"sauve", "Puzzle SuDoKu", "*.sdk"},
-                                                {"Command4", "Fichiers PDF", "*.pdf"}})
+    for (const auto& [button, kind, pattern] :
+         {std::tuple("Command6", "Sudoku files (.sdk)", "*.sdk"),
+          {"sauve", "Sudoku files (.sdk)", "*.sdk"},
+          {"Command4", "Documents PDF (.pdf)", "*.pdf"}})
       QCOMPARE(seen_in(button, kinds_of),
                (QStringList{QString("%1 (%2)").arg(kind, pattern), kind}));
   }
@@ -430,18 +444,6 @@ class FileDialogsTest : public QObject {
  private:
   QString at(const QString& name) const { return home_->filePath(name); }
   void make(const QString& folder) { QVERIFY(QDir().mkpath(at(folder))); }
-
-  /// What `look` sees in the dialog of a button, which is then cancelled.
-  template <class Look>
-  auto seen_in(const char* button, Look look) {
-    decltype(look(std::declval<QFileDialog&>())) seen;
-    in_file_dialog([&](QFileDialog& dialog) {
-      seen = look(dialog);
-      QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    play_->click(button);
-    return seen;
-  }
 
   QString start_of(const char* button) { return seen_in(button, folder_of); }
   QString proposal_of(const char* button) { return seen_in(button, proposed_in); }
