@@ -95,6 +95,7 @@ class OptionLooksTest : public QObject {
 
   void the_list_grows_with_the_names_of_its_levels() {
     auto& levels = play_->find<QComboBox>("Niveau");
+    play_->settle();
     const int before = levels.width();
     levels.addItem("Plus que diabolique");
     QTRY_VERIFY_WITH_TIMEOUT(levels.width() > before, 2000);
