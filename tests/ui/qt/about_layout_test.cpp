@@ -44,7 +44,7 @@ class AboutLayoutTest : public QObject {
     const double above = place("lblVersion").top() - place("Picture").top();
     const double below = place("lblCopyright").top() - place("Label1").bottom();
     QVERIFY(above > 10);
-    QVERIFY2(std::abs(above / below - 2.0 / 3) < 0.2, qPrintable(QString::number(above / below)));
+    QVERIFY2(std::abs(above / below - 2.0 / 3) < 0.1, qPrintable(QString::number(above / below)));
   }
 
   void the_version_is_written_largest_and_the_link_underlined() {
@@ -54,6 +54,41 @@ class AboutLayoutTest : public QObject {
     QCOMPARE(points("Label2"), points("lblCopyright"));
     QVERIFY(part("Label1").font().underline());
     QVERIFY(!part("Label2").font().underline());
+  }
+
+  void sizes_and_margins_are_those_of_the_box() {
+    const auto points = [this](const char* name) { return part(name).font().pointSize(); };
+    QCOMPARE(points("lblVersion"), 20);
+    QCOMPARE(points("Label1"), 12);
+    for (const char* name : {"Label2", "lblCopyright", "PictureCaption"}) QCOMPARE(points(name), 9);
+    const QRect picture = place("Picture"), caption = place("PictureCaption");
+    QCOMPARE(picture.topLeft(), QPoint(20, 20));
+    QCOMPARE(dialog().height() - caption.bottom() - 1, 16);
+    QCOMPARE(place("lblVersion").left() - picture.right() - 1, 28);
+    int right = 0;
+    for (const char* name : {"lblVersion", "Label2", "lblCopyright"})
+      right = std::max(right, place(name).right());
+    QCOMPARE(dialog().width() - right - 1, 28);
+    QCOMPARE(caption.top() - picture.bottom() - 1, 6);
+    QCOMPARE(place("Label1").top() - place("Label2").bottom() - 1, 6);
+    QCOMPARE(place("Label2").top() - place("lblVersion").bottom() - 1, 24 + 6);
+  }
+
+  void the_picture_has_its_own_size_and_its_caption_stands_in_the_middle() {
+    QCOMPARE(part("Picture").size(), QSize(300, 400));
+    QCOMPARE(part("PictureCaption").alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
+  }
+
+  void the_link_ends_with_its_text() {
+    QCOMPARE(place("Label1").width(), part("Label1").sizeHint().width());
+    QVERIFY(place("Label1").width() < place("lblVersion").width());
+  }
+
+  void it_has_one_size_and_stands_in_the_middle_of_its_window() {
+    QCOMPARE(dialog().minimumSize(), dialog().size());
+    QCOMPARE(dialog().maximumSize(), dialog().size());
+    const QPoint off = dialog().frameGeometry().center() - play_->frame.frameGeometry().center();
+    QVERIFY2(std::abs(off.x()) <= 4 && std::abs(off.y()) <= 4, qPrintable(QDebug::toString(off)));
   }
 
   void nothing_is_cut_off() {

@@ -147,6 +147,15 @@ class AboutTest : public QObject {
     QVERIFY(!is_closed());
   }
 
+  void another_button_of_the_mouse_opens_nothing() {
+    open();
+    QTest::mouseClick(&part("Label1"), Qt::RightButton);
+    QVERIFY(opened_.isEmpty());
+    QVERIFY(!is_closed());
+    QTest::mouseClick(&part("Label2"), Qt::MiddleButton);
+    QVERIFY(!is_closed());
+  }
+
   void it_keeps_the_window_waiting() {
     open();
     QCOMPARE(QApplication::activeModalWidget(), dialog());

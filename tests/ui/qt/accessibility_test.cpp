@@ -315,6 +315,44 @@ class AccessibilityTest : public QObject {
     QCOMPARE(names_told_with(QAccessible::NameChanged), QStringList());
   }
 
+  void the_level_that_holds_is_told_once() {
+    play_->press(Qt::Key_F2);
+    play_->click("Check1");
+    QCOMPARE(names_told_with(QAccessible::DescriptionChanged), QStringList());
+  }
+
+  void a_screen_reader_presses_buttons_and_ticks_boxes() {
+    const QString press = QAccessibleActionInterface::pressAction(),
+                  toggle = QAccessibleActionInterface::toggleAction(),
+                  focus = QAccessibleActionInterface::setFocusAction();
+    QAccessibleActionInterface& about = *accessible(find("Command5")).actionInterface();
+    QAccessibleActionInterface& check = *accessible(find("Check1")).actionInterface();
+    QCOMPARE(about.actionNames(), (QStringList{press, focus}));
+    QCOMPARE(check.actionNames(), (QStringList{toggle, focus}));
+    check.doAction(toggle);
+    QVERIFY(play_->window.VerifAuVol);
+    check.doAction(focus);
+    QVERIFY(play_->window.VerifAuVol && find("Check1").hasFocus());
+    check.doAction(press);
+    QVERIFY(play_->window.VerifAuVol);
+    about.doAction(press);
+    QVERIFY(play_->window.about().shown());
+  }
+
+  void a_greyed_button_offers_nothing_to_a_screen_reader() {
+    find("undo").setEnabled(false);
+    QCOMPARE(accessible(find("undo")).actionInterface()->actionNames(), QStringList());
+  }
+
+  void a_button_that_is_held_down_is_told_as_pressed() {
+    QWidget& button = find("Command7");
+    QVERIFY(!accessible(button).state().pressed);
+    QTest::mousePress(&button, Qt::LeftButton);
+    QVERIFY(accessible(button).state().pressed);
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(-5, -5));
+    QVERIFY(!accessible(button).state().pressed);
+  }
+
   void a_message_box_is_announced_with_its_text() {
     BoxAnswer no(QMessageBox::No);
     play_->click("Command3");

@@ -69,6 +69,27 @@ class ButtonRowTest : public QObject {
     QCOMPARE(copy.pixmap(28, 28).toImage(), painted);
   }
 
+  void an_icon_has_the_colour_of_a_text_on_its_button() {
+    const QIcon icon = play_->find<QToolButton>("undo").icon();
+    for (const auto& [mode, group] :
+         {std::pair(QIcon::Normal, QPalette::Active), {QIcon::Disabled, QPalette::Disabled}}) {
+      const QImage picture = icon.pixmap(QSize(28, 28), mode).toImage();
+      const QColor expected = QApplication::palette().color(group, QPalette::ButtonText);
+      int strokes = 0;
+      for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) strokes += picture.pixelColor(x, y) == expected;
+      QVERIFY2(strokes > 20, qPrintable(QString::number(strokes)));
+    }
+  }
+
+  void an_icon_is_transparent_around_its_strokes() {
+    for (const char* name : row) {
+      const QImage picture = play_->find<QToolButton>(name).icon().pixmap(28, 28).toImage();
+      for (const QPoint& corner : {picture.rect().topLeft(), picture.rect().bottomRight()})
+        QCOMPARE(picture.pixelColor(corner).alpha(), 0);
+    }
+  }
+
   void no_two_buttons_look_alike() {
     QList<QImage> pictures;
     for (const char* name : row) {

@@ -35,6 +35,15 @@ QImage painted(const DisplayCell& cell, int font_size = puzzle_font_size) {
   return image;
 }
 
+/// The same large enough to look at its details.
+QImage enlarged(const DisplayCell& cell, int font_size, int scale) {
+  QImage image(square.size() * scale, QImage::Format_RGB32);
+  QPainter painter(&image);
+  painter.scale(scale, scale);
+  paint_cell(painter, square, cell, font_size);
+  return image;
+}
+
 /// Around what is not as in an empty cell.
 QRect ink(const QImage& image) {
   const QImage empty = painted(cell_of(" "));
@@ -56,7 +65,7 @@ class CellPaintingTest : public QObject {
   void thin_lines_run_right_and_below() {
     const QImage image = painted(cell_of(" "));
     const QColor line = image.pixelColor(51, 0);
-    QVERIFY(line.lightness() > 180 && line.lightness() < 220);
+    QCOMPARE(line, QColor(199, 199, 199));
     for (int at = 0; at < cell_side; ++at) {
       QCOMPARE(image.pixelColor(51, at), line);
       QCOMPARE(image.pixelColor(at, 51), line);
@@ -100,6 +109,34 @@ class CellPaintingTest : public QObject {
     const QRect box = ink(painted(cell_of("         \r   .     \r         "), 10));
     QVERIFY(box.height() <= 4 && box.width() <= 4);
     QVERIFY(about(box.center().x(), 26) && about(box.center().y(), 26));
+  }
+
+  void a_dot_is_pale() {
+    const QImage dots = enlarged(cell_of(".  .  .  \r.  .  .  \r.  .  .  "), 10, 10);
+    int darkest = 255;
+    for (int y = 20; y < 500; ++y)
+      for (int x = 20; x < 500; ++x) darkest = std::min(darkest, dots.pixelColor(x, y).lightness());
+    QCOMPARE(darkest, 255 - 80);
+  }
+
+  void a_zigzag_has_seven_steps_of_4_and_a_line_of_2() {
+    const QImage image = enlarged(wrong_cell(), puzzle_font_size, 20);
+    const auto is_red = [&](double x, double y) {
+      return image.pixelColor(int(x * 20), int(y * 20)) == QColor(Qt::red);
+    };
+    const auto is_white = [&](double x, double y) {
+      return image.pixelColor(int(x * 20), int(y * 20)) == QColor(Qt::white);
+    };
+    for (int corner = 1; corner <= 6; ++corner) {
+      const double x = 12 + 4 * corner, y = corner % 2 == 0 ? 41 : 45;
+      const double outward = corner % 2 == 0 ? -1 : 1;
+      QVERIFY(is_red(x, y) && is_red(x, y + 0.55 * outward));
+      QVERIFY(is_white(x, y + 0.85 * outward));
+    }
+    for (const auto& [x, y, way] : {std::tuple(12.0, 41.0, -1), {40.0, 45.0, 1}}) {
+      QVERIFY(is_red(x + 0.6 * way, y + 0.6 * way));
+      QVERIFY(is_white(x + 1.6 * way, y + 1.6 * way));
+    }
   }
 
   void a_wrong_digit_is_underlined_by_a_zigzag() {

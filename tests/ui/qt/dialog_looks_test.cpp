@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLayout>
 #include <QStyledItemDelegate>
 #include <QTemporaryDir>
 #include <QTreeView>
@@ -60,6 +61,24 @@ class DialogLooksTest : public QObject {
     QVERIFY(picture_of(Icon::none).isNull());
   }
 
+  void a_picture_has_a_side_of_36() {
+    for (const Icon icon : {Icon::question, Icon::exclamation, Icon::critical})
+      QCOMPARE(picture_of(icon).size(), QSize(36, 36));
+  }
+
+  void a_box_of_the_game_shows_its_text_as_it_is_and_a_picture_of_its_own_alone() {
+    QMessageBox box(QMessageBox::NoIcon, program_title, "<b>9</b>",
+                    QMessageBox::Yes | QMessageBox::No);
+    for (QAbstractButton* button : box.buttons())
+      button->setIcon(box_picture("box_question", 16, 1));
+    fit_looks(box, Icon::critical);
+    QCOMPARE(box.textFormat(), Qt::PlainText);
+    QCOMPARE(box.iconPixmap().toImage(), picture_of(Icon::critical));
+    for (const QAbstractButton* button : box.buttons()) QVERIFY(button->icon().isNull());
+    box.adjustSize();
+    QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance(program_title) + 150);
+  }
+
   void a_picture_has_the_pixels_of_its_screen() {
     const QPixmap dense = box_picture("box_question", 36, 2);
     QCOMPARE(dense.size(), QSize(72, 72));
@@ -81,6 +100,9 @@ class DialogLooksTest : public QObject {
     fit_title(box);
     box.adjustSize();
     QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance(program_title) + 150);
+    const QMargins margins = box.layout()->contentsMargins();
+    QCOMPARE(box.width(), box.fontMetrics().horizontalAdvance(program_title) + 150 +
+                              margins.left() + margins.right());
   }
 
   void buttons_have_no_pictures() {

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include "tests/support/machine.hpp"
 #include "tests/ui/qt/play.hpp"
@@ -30,6 +32,28 @@ QStringList places_of(const QFileDialog& dialog) {
   return names;
 }
 
+/// The files that it lists: as Qt knows them, and as it tells the player.
+QStringList kinds_of(const QFileDialog& dialog) {
+  return dialog.nameFilters() << dialog.findChild<QComboBox*>("fileTypeCombo")->currentText();
+}
+
+/// What its buttons and its title say.
+QStringList words_of(const QFileDialog& dialog) {
+  QStringList words{dialog.windowTitle()};
+  for (const auto* button : dialog.findChild<QDialogButtonBox*>("buttonBox")->buttons())
+    words << button->text().remove('&');
+  return words;
+}
+
+bool shows_types(const QFileDialog& dialog) {
+  return !dialog.findChild<QTreeView*>("treeView")->isColumnHidden(2);
+}
+
+/// How far its middle is from that of the game's window.
+QPoint off_the_middle(const QFileDialog& dialog) {
+  return dialog.frameGeometry().center() - dialog.parentWidget()->frameGeometry().center();
+}
+
 /// Types a name key by key, as a player does while the dialog proposes how it may go on, and Enter.
 void type_name(QFileDialog& dialog, const QString& name) {
   auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
@@ -52,6 +76,19 @@ QString text_of_file(const QString& file) {
 
 class FileDialogsTest : public QObject {
   Q_OBJECT
+
+ private:
+  /// What `look` sees in the dialog of a button, which is then cancelled.
+  template <class Look>
+  auto seen_in(const char* button, Look look) {
+    decltype(look(std::declval<QFileDialog&>())) seen;
+    in_file_dialog([&](QFileDialog& dialog) {
+      seen = look(dialog);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    play_->click(button);
+    return seen;
+  }
 
  private slots:
   void init() {
@@ -82,6 +119,32 @@ class FileDialogsTest : public QObject {
       });
       play_->click(button);
       QVERIFY2(is_own, button);
+    }
+  }
+
+  void its_buttons_follow_the_language_of_the_game() {
+    play_->press(Qt::Key_F1);
+    QVERIFY(words_in("Command6").contains("Cancel"));
+    play_->press(Qt::Key_F2);
+    QVERIFY(words_in("sauve").contains("Annuler"));
+    play_->press(Qt::Key_F1);
+    QVERIFY(words_in("Command4").contains("Cancel"));
+  }
+
+  void it_lists_the_files_of_its_kind_and_names_the_kind_without_its_pattern() {
+    for (const auto& [button, kind, pattern] :
+         {std::tuple("Command6", "Sudoku files (.sdk)", "*.sdk"),
+          {"sauve", "Sudoku files (.sdk)", "*.sdk"},
+          {"Command4", "Documents PDF (.pdf)", "*.pdf"}})
+      QCOMPARE(seen_in(button, kinds_of),
+               (QStringList{QString("%1 (%2)").arg(kind, pattern), kind}));
+  }
+
+  void it_stands_in_the_middle_of_the_window_and_hides_the_types_of_its_files() {
+    for (const char* button : {"Command6", "sauve", "Command4"}) {
+      const QPoint off = seen_in(button, off_the_middle);
+      QVERIFY2(std::abs(off.x()) <= 4 && std::abs(off.y()) <= 4, qPrintable(QDebug::toString(off)));
+      QVERIFY2(!seen_in(button, shows_types), button);
     }
   }
 
@@ -160,6 +223,32 @@ class FileDialogsTest : public QObject {
     QCOMPARE(play_->frame.windowTitle(), title);
   }
 
+  void a_refusal_is_told_in_a_box_like_the_others() {
+    QString title, own_title;
+    QMessageBox::StandardButtons buttons;
+    QSize picture;
+    const QWidget* parent = nullptr;
+    in_file_dialog([&](QFileDialog& dialog) {
+      own_title = dialog.windowTitle();
+      later(50, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) qFatal("no box is open");
+        title = box->windowTitle();
+        buttons = box->standardButtons();
+        picture = box->iconPixmap().size();
+        parent = box->parentWidget();
+        QTest::keyClick(box, Qt::Key_Escape);
+        QCOMPARE(parent, &dialog);
+      });
+      enter_name(dialog, at("none.sdk"));
+      dialog.reject();
+    });
+    play_->click("Command6");
+    QCOMPARE(title, own_title);
+    QCOMPARE(buttons, QMessageBox::Ok);
+    QCOMPARE(picture, QSize(36, 36));
+  }
+
   void a_refused_name_can_be_mended() {
     BoxAnswer ok(QMessageBox::Ok);
     in_file_dialog([this](QFileDialog& dialog) {
@@ -205,11 +294,43 @@ class FileDialogsTest : public QObject {
     QCOMPARE(entered, at("sub"));
   }
 
+  void two_dots_lead_to_the_folder_above() {
+    BoxAnswer never(QMessageBox::Ok);
+    QString entered;
+    in_file_dialog([&](QFileDialog& dialog) {
+      enter_name(dialog, "..");
+      entered = folder_of(dialog);
+      dialog.reject();
+    });
+    play_->click("Command6");
+    QVERIFY(!never.was_shown());
+    QCOMPARE(entered, home_->path());
+  }
+
+  void a_folder_picked_in_the_list_is_entered() {
+    make("Documents/sub");
+    BoxAnswer never(QMessageBox::Ok);
+    QString entered;
+    in_file_dialog([&](QFileDialog& dialog) {
+      auto& list = *dialog.findChild<QListView*>("listView");
+      QVERIFY(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
+      list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+      QTest::keyClick(&list, Qt::Key_Return);
+      entered = folder_of(dialog);
+      dialog.reject();
+    });
+    play_->click("Command6");
+    QVERIFY(!never.was_shown());
+    QCOMPARE(entered, at("Documents/sub"));
+  }
+
   void saving_proposes_a_name_and_takes_any_other() {
     QCOMPARE(proposal_of("sauve"), "Grille.sdk");
     QCOMPARE(proposal_of("Command4"), "Grille.pdf");
     write(at("Documents/Grille.sdk"));
     QCOMPARE(proposal_of("sauve"), "Grille 2.sdk");
+    write(at("Documents/Grille 2.sdk"));
+    QCOMPARE(proposal_of("sauve"), "Grille 3.sdk");
     play_->press(Qt::Key_F1);
     QCOMPARE(proposal_of("sauve"), "Puzzle.sdk");
     choose_file("as I like");
@@ -252,6 +373,19 @@ class FileDialogsTest : public QObject {
     play_->press(Qt::Key_F1);
     QCOMPARE(places_in("Command6").last(), "Rescued grids");
     QVERIFY(!places_in("sauve").contains("Rescued grids"));
+  }
+
+  void their_place_is_offered_for_puzzles_alone_and_named_whole() {
+    make("data/sudoku/folder.sdk");
+    write(at("data/sudoku/notes.txt"));
+    QVERIFY(!places_in("Command6").contains("Grilles récupérées"));
+    write(at("data/sudoku/SuDoKu-1.sdk"));
+    const bool fits = seen_in("Command6", [](const QFileDialog& dialog) {
+      const auto& sidebar = *dialog.findChild<QListView*>("sidebar");
+      const QModelIndex place = sidebar.model()->index(sidebar.model()->rowCount() - 1, 0);
+      return sidebar.viewport()->width() >= sidebar.sizeHintForIndex(place).width();
+    });
+    QVERIFY(fits);
   }
 
   void their_place_keeps_its_name_and_leads_to_them() {
@@ -315,20 +449,9 @@ class FileDialogsTest : public QObject {
   QString at(const QString& name) const { return home_->filePath(name); }
   void make(const QString& folder) { QVERIFY(QDir().mkpath(at(folder))); }
 
-  /// What `look` sees in the dialog of a button, which is then cancelled.
-  template <class Look>
-  auto seen_in(const char* button, Look look) {
-    decltype(look(std::declval<QFileDialog&>())) seen;
-    in_file_dialog([&](QFileDialog& dialog) {
-      seen = look(dialog);
-      QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    play_->click(button);
-    return seen;
-  }
-
   QString start_of(const char* button) { return seen_in(button, folder_of); }
   QString proposal_of(const char* button) { return seen_in(button, proposed_in); }
+  QStringList words_in(const char* button) { return seen_in(button, words_of); }
   QStringList places_in(const char* button) { return seen_in(button, places_of); }
 
   /// The words with which a dialog refuses a name; it must then still be open.

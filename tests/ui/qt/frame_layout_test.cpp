@@ -84,6 +84,27 @@ class FrameLayoutTest : public QObject {
     QVERIFY(room.left() < place("Check2").right());
   }
 
+  void an_explanation_stands_10_right_of_the_options_in_either_language() {
+    play_->draw(
+        "12345678.\n.........\n.........\n.........\n.........\n"
+        ".........\n.........\n.........\n.........");
+    BoxAnswer no(QMessageBox::No);
+    play_->click("Command8");
+    for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
+      play_->press(key);
+      const int below = std::max(place("Label").right(), place("Astuce").right());
+      QCOMPARE(place("explanation").left(), below + 10);
+    }
+    play_->click("Check2");
+    for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
+      play_->press(key);
+      int right = std::max(place("Label").right(), place("Astuce").right());
+      for (const char* name : {"Check1", "Check2", "Check3"})
+        right = std::max(right, place(name).right());
+      QCOMPARE(place("explanation").left(), right + 10);
+    }
+  }
+
   void the_window_has_one_size() {
     QCOMPARE(play_->frame.minimumSize(), play_->frame.maximumSize());
     QCOMPARE(play_->frame.minimumSize(), play_->frame.size());

@@ -31,6 +31,17 @@ class HomeTest : public QObject {
     QCOMPARE(files(), QStringList{"a.sdk"});
   }
 
+  void dialogs_begin_in_the_folder_of_the_file_that_was_opened_at_the_start() {
+    QVERIFY(QDir(home_->path()).mkdir("puzzles"));
+    QVERIFY(QFile::rename(home_->filePath("a.sdk"), home_->filePath("puzzles/a.sdk")));
+    QCOMPARE(status_of("sauve=b.sdk;Command3", {home_->filePath("puzzles/a.sdk")}), 0);
+    QCOMPARE(files(), (QStringList{"puzzles", "puzzles/a.sdk", "puzzles/b.sdk"}));
+  }
+
+  void a_file_that_is_missing_at_the_start_ends_the_program() {
+    QCOMPARE(status_of("Command3", {home_->filePath("missing.sdk")}), 1);
+  }
+
   void settings_that_were_there_stay_as_they_were() {
     QVERIFY(QDir(home_->path()).mkdir(".config"));
     const QString settings = home_->filePath(".config/QtProject.conf");
@@ -42,8 +53,8 @@ class HomeTest : public QObject {
   }
 
  private:
-  /// Plays with a home of its own.
-  int status_of(const QString& steps) {
+  /// Plays with a home of its own, started with `arguments`.
+  int status_of(const QString& steps, const QStringList& arguments = {}) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QString& name : environment.keys())
       if (name.startsWith("XDG_")) environment.remove(name);
@@ -54,7 +65,7 @@ class HomeTest : public QObject {
     environment.insert("QT_QPA_GENERIC_PLUGINS", "player:" + steps);
     QProcess program;
     program.setProcessEnvironment(environment);
-    program.start(SUDOKU_PROGRAM, {});
+    program.start(SUDOKU_PROGRAM, arguments);
     const bool ended = program.waitForFinished(20'000);
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
   }

@@ -199,6 +199,14 @@ class LegibilityTest : public QObject {
     QVERIFY(lighter.blue() > lighter.red());
   }
 
+  void text_is_large_from_18_points_on() {
+    DisplayCell cell{.text = "8", .text_colour = colour::red, .back_colour = colour::from_file};
+    for (const auto& [points, asked] : {std::pair(18, 3.0), {17, 4.5}}) {
+      cell.font_size = points;
+      QVERIFY(drawn_contrast(cell) >= asked && drawn_contrast(cell) < asked + 1);
+    }
+  }
+
   void every_pair_of_the_grids_can_be_read() {
     for (const Pair& pair : all_pairs(play_->window))
       for (const DisplayCell& cell : {cell_of(pair), selected(cell_of(pair))})

@@ -44,6 +44,7 @@ class OptionLooksTest : public QObject {
     for (const char* name : boxes) {
       const int difference = inside_of(play_->find(name)).lightness() - window.lightness();
       QVERIFY2(difference >= 40 && difference <= 100, qPrintable(QString::number(difference)));
+      QCOMPARE(inside_of(play_->find(name)), window.lighter(200));
     }
   }
 
@@ -81,6 +82,41 @@ class OptionLooksTest : public QObject {
     QVERIFY(levels.grab().toImage() != chosen);
     levels.setCurrentIndex(4);
     QVERIFY(levels.grab().toImage() != chosen);
+  }
+
+  void the_easiest_level_is_shown_when_it_is_chosen() {
+    auto& levels = play_->find<QComboBox>("Niveau");
+    levels.setPlaceholderText(levels.itemText(0));
+    levels.setCurrentIndex(0);
+    const QImage chosen = levels.grab().toImage();
+    levels.setPlaceholderText(levels.itemText(3));
+    QCOMPARE(levels.grab().toImage(), chosen);
+  }
+
+  void the_list_grows_with_the_names_of_its_levels() {
+    auto& levels = play_->find<QComboBox>("Niveau");
+    play_->settle();
+    const int before = levels.width();
+    levels.addItem("Plus que diabolique");
+    QTRY_VERIFY_WITH_TIMEOUT(levels.width() > before, 2000);
+  }
+
+  void a_box_says_what_it_does_under_the_pointer() {
+    for (const auto key : {Qt::Key_F1, Qt::Key_F2}) {
+      play_->press(key);
+      for (const char* name : boxes)
+        QCOMPARE(play_->find(name).toolTip(), play_->find<QCheckBox>(name).text());
+    }
+  }
+
+  void the_options_fill_their_band_from_edge_to_edge() {
+    QCOMPARE(play_->find("Check3").pos(), QPoint(0, 0));
+    QCOMPARE(play_->find("Astuce").geometry().bottom(), play_->find("options").height() - 1);
+    const int above = play_->find("Niveau").y() - play_->find("Check3").geometry().bottom();
+    const int below = play_->find("Astuce").y() - play_->find("Niveau").geometry().bottom();
+    QVERIFY(std::abs(above - below) <= 1);
+    for (const char* name : {"Label", "Astuce"})
+      QCOMPARE(play_->find(name).width(), play_->find(name).sizeHint().width());
   }
 
   void the_boxes_stand_in_a_row_from_the_left() {

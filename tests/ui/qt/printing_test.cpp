@@ -33,6 +33,31 @@ QColor at(const QImage& image, double x_twips, double y_twips) {
                           static_cast<int>(y_twips / twips_per_pixel_here));
 }
 
+/// Around all ink of the page, in twips.
+QRect ink(const QImage& image) {
+  QRect box;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y) != Qt::white) box |= QRect(x * 10, y * 10, 10, 10);
+  return box;
+}
+
+/// A sheet of paper that can be looked at; it has 144 pixels an inch.
+class Paper : public QPdfWriter {
+ public:
+  Paper() : QPdfWriter(QString()), image_(600, 600, QImage::Format_RGB32) {
+    setResolution(144);
+    image_.fill(Qt::white);
+  }
+  const QImage& image() const { return image_; }
+
+ protected:
+  QPaintDevice* redirected(QPoint*) const override { return &image_; }
+
+ private:
+  mutable QImage image_;
+};
+
 bool has_ink(const QImage& image, const QRect& twips) {
   for (int y = twips.top(); y < twips.bottom(); y += 10)
     for (int x = twips.left(); x < twips.right(); x += 10)
@@ -98,6 +123,30 @@ class PrintingTest : public QObject {
         ++texts;
       }
     QCOMPARE(texts, 2);
+  }
+
+  void a_text_is_written_in_its_font_and_size_from_its_corner() {
+    QImage expected(1191, 1684, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    painter.scale(0.1, 0.1);
+    QFont font("monospace");
+    font.setPixelSize(36 * 20);
+    painter.setFont(font);
+    painter.drawText(QPointF(1000, 2000 + QFontMetricsF(font).ascent()), "SuDoKu");
+    QCOMPARE(painted({TextDrawing{1000, 2000, "monospace", 36, "SuDoKu"}}), expected);
+  }
+
+  void a_line_has_its_width_and_square_ends() {
+    QCOMPARE(ink(painted({LineDrawing{60, 1000, 2000, 3000, 2000}})), QRect(970, 1970, 2060, 60));
+    QCOMPARE(ink(painted({LineDrawing{100, 500, 600, 500, 900}})), QRect(450, 550, 100, 400));
+  }
+
+  void a_twip_is_a_1440th_of_an_inch_on_paper() {
+    Paper paper;
+    QVERIFY(paint_page(paper, {LineDrawing{200, 1440, 2880, 4320, 2880}}));
+    const QRect box = ink(paper.image());
+    QCOMPARE(box, QRect(1340, 2780, 3080, 200));
   }
 
   void a_pdf_has_one_portrait_page() {

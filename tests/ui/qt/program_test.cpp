@@ -16,7 +16,7 @@ class ProgramTest : public QObject {
   void it_opens_its_window_in_the_middle_of_the_screen() {
     QCOMPARE(seen(),
              (QStringList{"window: in the middle", "name: sudoku", "desktop file: sudoku-pas-a-pas",
-                          "icon: some", "style: fusion"}));
+                          "icon: some", "style: fusion", "scale: 1"}));
   }
 
   void an_answer_that_cannot_be_written_is_a_failure() {
@@ -43,6 +43,7 @@ class ProgramTest : public QObject {
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("QT_PLUGIN_PATH", PLUGINS);
     environment.insert("QT_QPA_GENERIC_PLUGINS", "witness");
+    environment.insert("QT_SCALE_FACTOR", "0.5");  // too small to be obeyed
     QProcess program;
     program.setProcessEnvironment(environment);
     program.start(SUDOKU_PROGRAM, {});

@@ -105,6 +105,45 @@ class QuestionTest : public QObject {
     });
   }
 
+  void the_window_that_comes_back_to_the_front_leaves_the_keys_where_they_were() {
+    ask([this] {
+      press(Qt::Key_Backtab, Qt::ShiftModifier);
+      QCOMPARE(focus_name(), "next_step");
+      box().activateWindow();
+      play_->settle();
+      QCOMPARE(focus_name(), "&Oui");
+      play_->frame.activateWindow();
+      play_->settle();
+      QCOMPARE(focus_name(), "next_step");
+    });
+  }
+
+  void tab_in_what_waits_leads_to_the_box() {
+    ask([this] {
+      for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        play_->frame.activateWindow();
+        play_->settle();
+        QTest::keyClick(&play_->find("MSF"), key);
+        play_->settle();
+        QCOMPARE(focus_name(), "&Oui");
+        QVERIFY(box().isActiveWindow());
+      }
+    });
+  }
+
+  void tab_goes_from_left_to_right_on_desktops_that_put_no_first() {
+    qApp->setStyleSheet("QDialogButtonBox { button-layout: 1 }");
+    ask([this] {
+      box().button(QMessageBox::No)->setFocus();
+      QVERIFY(box().button(QMessageBox::No)->x() < box().button(QMessageBox::Yes)->x());
+      press(Qt::Key_Tab);
+      QCOMPARE(focus_name(), "&Oui");
+      press(Qt::Key_Tab);
+      QCOMPARE(focus_name(), "steps");
+    });
+    qApp->setStyleSheet("");
+  }
+
   void nothing_else_answers_the_mouse() {
     ask([this] {
       const auto cells = play_->window.MSF.cells();
@@ -205,6 +244,7 @@ class QuestionTest : public QObject {
     play_->settle();
     QVERIFY(play_->find("MSF").hasFocus());
     QVERIFY(play_->find("explanation").isVisible());
+    QVERIFY(play_->frame.isActiveWindow());
   }
 
   void the_sentence_of_the_offer_is_the_description_of_the_box() {

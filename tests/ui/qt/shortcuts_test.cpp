@@ -3,6 +3,7 @@
 
 // Undo and redo in the window, and the keys of the buttons.
 
+#include <QShortcut>
 #include <QToolButton>
 
 #include "tests/ui/qt/play.hpp"
@@ -105,6 +106,13 @@ class ShortcutsTest : public QObject {
     QCOMPARE(shown(), "1");
     QTest::keyClick(focus, Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(shown(), "2");
+  }
+
+  void a_key_held_down_undoes_and_redoes_on_and_does_nothing_else_again() {
+    QStringList repeated;
+    for (const QShortcut* shortcut : play_->find("commands").findChildren<QShortcut*>())
+      if (shortcut->autoRepeat()) repeated << shortcut->key().toString();
+    QCOMPARE(repeated, (QStringList{"Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Y"}));
   }
 
   void keys_that_find_nothing_change_nothing() {

@@ -8,6 +8,7 @@
 #include "pas_a_pas/view.hpp"
 #include "tests/ui/qt/play.hpp"
 #include "ui/qt/cell_painter.hpp"
+#include "ui/qt/contrast.hpp"
 #include "ui/qt/step_painter.hpp"
 
 namespace sdk::test {
@@ -32,6 +33,21 @@ QRect ink(const PictureCell& cell, int scale = 1) {
     for (int x = 0; x < drawn.width(); ++x)
       if (drawn.pixel(x, y) != empty.pixel(x, y)) box |= QRect(x, y, 1, 1);
   return box;
+}
+
+/// A digit alone on the background of `mark`, in letters of `pixels`.
+QImage written(int digit, const QRect& place, int pixels, bool bold, const QColor& colour,
+               Mark mark) {
+  QImage image(square.size(), QImage::Format_RGB32);
+  QPainter painter(&image);
+  paint_background(painter, square, to_qcolor(mark_background(mark)));
+  QFont font = QGuiApplication::font();
+  font.setPixelSize(pixels);
+  font.setBold(bold);
+  painter.setFont(font);
+  painter.setPen(colour);
+  painter.drawText(place, Qt::AlignCenter, QString::number(digit));
+  return image;
 }
 
 /// The darkest pixel's lightness.
@@ -67,6 +83,30 @@ class StepDigitsTest : public QObject {
     }
   }
 
+  void a_candidate_has_10_points_and_is_bold_where_the_step_rests_on_it() {
+    for (int digit = 1; digit <= 9; ++digit) {
+      const QRect place = candidate_place(square, digit);
+      QCOMPARE(painted({.candidates = {digit}, .pattern = {digit}}),
+               written(digit, place, 13, true, Qt::black, Mark::none));
+      QCOMPARE(painted({.candidates = {digit}}),
+               written(digit, place, 13, false, QColor(0x60, 0x60, 0x60), Mark::none));
+    }
+  }
+
+  void a_value_has_20_points() {
+    for (int digit = 1; digit <= 9; ++digit)
+      QCOMPARE(painted({.value = digit}),
+               written(digit, square, 26, false, QColor(0x60, 0x60, 0x60), Mark::value));
+  }
+
+  void a_bystander_can_be_read_on_every_mark() {
+    for (const Mark mark : {Mark::none, Mark::removed, Mark::support, Mark::value, Mark::second}) {
+      const int grey = darkness(painted({.candidates = {8}, .mark = mark}, 4));
+      QVERIFY(contrast(QColor(grey, grey, grey), to_qcolor(mark_background(mark))) >=
+              small_text_contrast);
+    }
+  }
+
   void a_value_stands_in_the_middle_of_its_cell() {
     const QPoint off = ink({.value = 8}).center() - square.center();
     QVERIFY(std::abs(off.x()) <= 2 && std::abs(off.y()) <= 2);
@@ -97,6 +137,45 @@ class StepDigitsTest : public QObject {
       QVERIFY(is_dark(-6, 4) && is_dark(6, -4));
       QVERIFY(!is_dark(-6, -4) && !is_dark(6, 4));
     }
+  }
+
+  void a_strike_is_14_wide_and_9_high_and_thin() {
+    constexpr int scale = 20;
+    const QImage image = painted({.candidates = {1}, .removed = {1}}, scale);
+    const QPointF middle = QRectF(candidate_place(square, 1)).center();
+    const QPointF reach(7, -4.5), across = QPointF(4.5, 7) / 8.32;
+    const auto is_dark = [&](QPointF place) {
+      return image.pixelColor(((middle + place) * scale).toPoint()).lightness() < 100;
+    };
+    for (const int way : {1, -1}) {
+      QVERIFY(is_dark(1.03 * way * reach) && !is_dark(1.1 * way * reach));
+      for (const double side : {1, -1}) {
+        QVERIFY(is_dark(0.85 * way * reach + 0.5 * side * across));
+        QVERIFY(!is_dark(0.85 * way * reach + 0.75 * side * across));
+      }
+    }
+  }
+
+  void a_strike_is_drawn_smoothly() {
+    const QImage image = painted({.candidates = {5}, .removed = {5}});
+    QSet<QRgb> shades;
+    for (int x = 19; x < 22; ++x)
+      for (int y = 26; y < 33; ++y) shades << image.pixel(x, y);
+    QVERIFY2(shades.size() > 4, qPrintable(QString::number(shades.size())));
+  }
+
+  void a_cell_is_drawn_in_its_square_alone() {
+    const PictureCell cell{.candidates = {1, 5}, .mark = Mark::support, .removed = {5}};
+    QImage image(3 * cell_side, 3 * cell_side, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const QRect place(cell_side + 3, cell_side - 2, cell_side, cell_side);
+    paint_step_cell(painter, place, cell);
+    QCOMPARE(image.copy(place), painted(cell));
+    painter.fillRect(place, Qt::white);
+    QImage untouched(image.size(), image.format());
+    untouched.fill(Qt::white);
+    QCOMPARE(image, untouched);
   }
 
   void the_background_fills_the_cell_to_its_edges() {

@@ -23,9 +23,10 @@ QImage white(int width, int height) {
 }
 
 /// Links and lines alone, on white.
-QImage drawn(const StepPicture& step) {
-  QImage image = white(side, side);
+QImage drawn(const StepPicture& step, int scale = 1, const QBrush& brush = Qt::NoBrush) {
+  QImage image = white(scale * side, scale * side);
   QPainter painter(&image);
+  painter.setBrush(brush);
   paint_step_links(painter, image.rect(), step);
   return image;
 }
@@ -47,6 +48,29 @@ StepPicture linked(Cell from, Cell to, int digit) {
   StepPicture step;
   step.links = {{{from, digit}, {to, digit}}};
   return step;
+}
+
+StepPicture framed(Unit unit) {
+  StepPicture step;
+  step.lines = {unit};
+  return step;
+}
+
+/// Around all ink, in the units of the cells.
+QRectF fine_ink(const StepPicture& step) {
+  constexpr int scale = 10;
+  const QRectF box = ink(drawn(step, scale));
+  return {box.topLeft() / scale, box.size() / scale};
+}
+
+bool same(double found, double expected) { return std::abs(found - expected) <= 0.2; }
+
+QImage framed_cell(Mark mark, const QBrush& brush) {
+  QImage image = white(cell_side, cell_side);
+  QPainter painter(&image);
+  painter.setBrush(brush);
+  paint_step_frame(painter, image.rect(), mark);
+  return image;
 }
 
 bool about(double found, double expected) { return std::abs(found - expected) <= 2; }
@@ -82,6 +106,67 @@ class StepLinesTest : public QObject {
     QVERIFY(about(box.top(), place(1, 5, 5).center().y() + 8));
     QVERIFY(about(box.bottom(), place(9, 5, 5).center().y() - 8));
     QVERIFY(about(box.width(), 13));
+  }
+
+  void a_link_begins_8_from_the_middle_of_its_digit_and_bends_up_on_its_way_to_the_right() {
+    const QRectF wide = fine_ink(linked({5, 1}, {5, 9}, 5));
+    // The ends of a line of 1.5 reach half of that further.
+    QVERIFY(same(wide.left(), 26 + 7.95 - 0.75) && same(wide.right(), 442 - 7.95 + 0.75));
+    QVERIFY(same(wide.top(), 234 - 24.9 / 2 - 0.75));
+    const QRectF narrow = fine_ink(linked({5, 1}, {5, 2}, 5));
+    QVERIFY(same(narrow.top(), 234 - (10.4 + 2.97) / 2 - 0.75));
+  }
+
+  void a_link_between_neighbours_begins_half_way_to_its_bend() {
+    StepPicture step;
+    step.links = {{{{5, 5}, 4}, {{5, 5}, 5}}};
+    const double width = fine_ink(step).width();
+    QVERIFY2(width > 8 && width < 10, qPrintable(QString::number(width)));
+  }
+
+  void links_and_lines_are_drawn_smoothly_in_a_blue_that_lets_digits_through() {
+    const QImage image = drawn(linked({5, 1}, {5, 9}, 5));
+    QSet<QRgb> shades;
+    for (int y = 210; y < 240; ++y)
+      for (int x = 30; x < 200; ++x) shades << image.pixel(x, y);
+    QVERIFY(shades.size() > 10);
+    QImage expected = white(1, 1);
+    QPainter(&expected).fillRect(0, 0, 1, 1, QColor(0x10, 0x38, 0xa8, 0xd0));
+    QCOMPARE(drawn(framed({UnitKind::row, 1}), 10).pixelColor(2340, 30), expected.pixelColor(0, 0));
+  }
+
+  void nothing_is_filled_whatever_the_painter_filled_before() {
+    StepPicture step = linked({5, 1}, {5, 9}, 5);
+    step.lines = {{UnitKind::row, 1}};
+    QCOMPARE(drawn(step, 1, Qt::red), drawn(step));
+    QCOMPARE(framed_cell(Mark::removed, Qt::red), framed_cell(Mark::removed, Qt::NoBrush));
+  }
+
+  void a_line_is_framed_3_inside_its_cells() {
+    const QRectF box = fine_ink(framed({UnitKind::row, 3}));
+    QVERIFY(same(box.left(), 3 - 0.75) && same(box.right(), side - 3 + 0.75));
+    QVERIFY(same(box.top(), 104 + 3 - 0.75) && same(box.bottom(), 156 - 3 + 0.75));
+  }
+
+  void a_whole_step_shows_its_cells_in_their_places_and_its_links_on_top() {
+    StepPicture step;
+    for (const auto& [row, column] : {std::pair(1, 1), {2, 3}, {9, 9}})
+      step.cells(row, column).mark = Mark::support;
+    const QRect area(30, 20, side, side);
+    const auto whole = [&] {
+      QImage image = white(side + 60, side + 40);
+      QPainter painter(&image);
+      paint_step(painter, area, step);
+      return image;
+    };
+    const QImage bare = whole();
+    for (int row = 1; row <= 9; ++row)
+      for (int column = 1; column <= 9; ++column)
+        QCOMPARE(bare.pixelColor(area.topLeft() + place(row, column, 5).center()),
+                 to_qcolor(mark_background(step.cells(row, column).mark)));
+    step.links = {{{{5, 1}, 5}, {{5, 9}, 5}}};
+    QVERIFY(whole() != bare);
+    QVERIFY(QRect(30, 20, side, side).contains(ink(whole())));
   }
 
   void a_short_link_leaves_the_digits_at_its_ends_free() {

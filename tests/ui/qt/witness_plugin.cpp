@@ -38,6 +38,7 @@ void tell_all(const QWidget* window) {
   tell("desktop file", QGuiApplication::desktopFileName());
   tell("icon", QApplication::windowIcon().isNull() ? "none" : "some");
   tell("style", QApplication::style()->objectName());
+  tell("scale", QString::number(qApp->devicePixelRatio()));
 }
 
 class Witness : public QObject {
