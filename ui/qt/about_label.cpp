@@ -40,7 +40,6 @@ PictureLabel::PictureLabel() {
 
 void PictureLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
   picture_.render(&painter, rect());
 }
 

@@ -72,7 +72,6 @@ Answer QtDesktop::message_box(const std::string& text, Icon icon, Buttons button
   const bool asks = buttons == Buttons::yes_no;
   Box box(QMessageBox::NoIcon, QString::fromStdString(title), in_language_on_screen(text),
           asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, window);
-  if (asks) box.setEscapeButton(QMessageBox::No);
   fit_looks(box, icon);
   place(box, window);
   const int pressed = run(box, asks && icon == Icon::none);

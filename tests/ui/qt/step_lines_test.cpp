@@ -121,7 +121,7 @@ class StepLinesTest : public QObject {
     StepPicture step;
     step.links = {{{{5, 5}, 4}, {{5, 5}, 5}}};
     const double width = fine_ink(step).width();
-    QVERIFY2(width > 8 && width < 10, qPrintable(QString::number(width)));
+    QVERIFY2(width > 8 && width < 11, qPrintable(QString::number(width)));
   }
 
   void links_and_lines_are_drawn_smoothly_in_a_blue_that_lets_digits_through() {
