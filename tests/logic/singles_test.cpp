@@ -38,6 +38,13 @@ TEST_F(SingleFinders, ANakedSingleIsTakenByItsCountAndItsLowestFlag) {
   EXPECT_EQ(naked(), (Placement{{4, 6}, 3}));
 }
 
+TEST_F(SingleFinders, ASingleIsOfTheDigitThatItPlaces) {
+  set_candidates(candidates, {4, 6}, {3});
+  EXPECT_EQ(find_naked_single(position)->digits, NineSet{3});
+  keep_places(candidates, row(1), 2, {3});
+  EXPECT_EQ(find_hidden_single(position)->digits, NineSet{2});
+}
+
 TEST_F(SingleFinders, TheFirstNakedSingleRowByRowIsTaken) {
   for (const Cell cell : {Cell{9, 1}, {2, 8}, {2, 9}, {3, 1}})
     set_candidates(candidates, cell, {5});

@@ -48,7 +48,6 @@ void BoxAnswerer::look_for_box() {
 Studio::Studio(const std::string& language) {
   desktop_.set_window(&frame_);
   window_.start("");
-  frame_.centre_on_screen();
   frame_.show();
   QApplication::setActiveWindow(&frame_);
   if (language != globals.Langue) window_.preview_key(key::f1);

@@ -248,7 +248,7 @@ class GuideTest : public QObject {
     QTextImageFormat format = cursor.charFormat().toImageFormat();
     format.setHeight(millimetres(300));
     cursor.setCharFormat(format);
-    QVERIFY_EXCEPTION_THROWN(pdf_of(*document, ""), GuideError);
+    QVERIFY_THROWS_EXCEPTION(GuideError, pdf_of(*document, ""));
   }
 
   void a_text_that_cannot_be_read_is_named() {

@@ -171,7 +171,7 @@ class AboutTest : public QObject {
 
   void what_nothing_opens_is_an_error() {
     QDesktopServices::unsetUrlHandler("https");
-    QVERIFY_EXCEPTION_THROWN(play_->desktop.open_document(page_address), RuntimeError);
+    QVERIFY_THROWS_EXCEPTION(RuntimeError, play_->desktop.open_document(page_address));
     open();
     QTest::mouseClick(&part("Label1"), Qt::LeftButton);
     QVERIFY(!is_closed());

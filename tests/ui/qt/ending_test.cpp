@@ -114,7 +114,7 @@ class EndingTest : public QObject {
     int runs = 0;
     play_->guard.run([&] { ++runs; });
     QCOMPARE(runs, 0);
-    QVERIFY_EXCEPTION_THROWN(play_->guard.rethrow(), ProgramEnd);
+    QVERIFY_THROWS_EXCEPTION(ProgramEnd, play_->guard.rethrow());
   }
 
   void a_search_solves_the_puzzle() {
