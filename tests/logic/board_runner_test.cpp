@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
+#include <string_view>
 #include <vector>
 
 #include "logic/techniques.hpp"
@@ -244,6 +246,14 @@ TEST(RunBoards, ADifferenceAndAMalformedFileFailTheRun) {
             1);
   EXPECT_EQ(exit_status(BoardsOnDisk(head).path()), 2);
   EXPECT_EQ(exit_status("/no/such/file"), 2);
+}
+
+TEST(Techniques, AreCalledDifferently) {
+  std::set<std::string_view> names;
+  for (const Technique& technique : techniques) {
+    EXPECT_GT(technique.name.size(), 4u) << technique.id;
+    EXPECT_TRUE(names.insert(technique.name).second) << technique.name;
+  }
 }
 
 TEST(Boards, EveryTechniqueHasThreeThatFireAndTwoNearMisses) {

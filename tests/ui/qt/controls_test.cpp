@@ -16,7 +16,6 @@ namespace {
 constexpr const char* buttons[] = {"Command1", "Command6", "sauve",     "Command4",
                                    "Command8", "Command7", "Bouton_GO", "Command2",
                                    "aide",     "Command5", "Command3"};
-constexpr const char* boxes[] = {"Check3", "Check1", "Check2"};
 
 QStringList items_of(const QComboBox& list) {
   QStringList items;

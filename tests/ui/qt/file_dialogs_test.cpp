@@ -416,14 +416,15 @@ class FileDialogsTest : public QObject {
     for (const auto& [key, title] : {std::pair(Qt::Key_F1, "Print to a PDF file"),
                                      std::pair(Qt::Key_F2, "Imprimer dans un fichier PDF")}) {
       play_->press(key);
+      const QString page = QString("page%1.pdf").arg(key);
       QString shown;
       in_file_dialog([&](QFileDialog& dialog) {
         shown = dialog.windowTitle();
-        enter_name(dialog, QString("page%1.pdf").arg(key));
+        enter_name(dialog, page);
       });
       play_->click("Command4");
       QCOMPARE(shown, title);
-      const QString pdf = text_of_file(at(QString("Documents/page%1.pdf").arg(key)));
+      const QString pdf = text_of_file(at("Documents/" + page));
       QVERIFY(pdf.startsWith("%PDF"));
       QCOMPARE(pdf.count("/Type /Page\n"), 1);
       QVERIFY(pdf.trimmed().endsWith("%%EOF"));
