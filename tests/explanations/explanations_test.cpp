@@ -90,6 +90,31 @@ TEST_F(Explanations, WWing) {
                 "L1C5."));
 }
 
+TEST_F(Explanations, AWWingOfACellThatSeesBothEndsOfTheLink) {
+  hold({{{4, 1}, {9}}, {{4, 2}, {9}}, {{5, 3}, {5, 9}}, {{8, 1}, {5, 9}}, {{8, 3}, {5}}});
+  fire(technique_named("w_wing"));
+  EXPECT_EQ(
+      english(),
+      "W-wing: r5c3 and r8c1 can only be 5 or 9. In row 4, the 9 can only go in r4c1 or r4c2. "
+      "In r4c2 it makes r5c3 a 5; in r4c1 it makes r8c1 a 5. Either way r8c3 sees a 5 in r5c3 or "
+      "r8c1. To remove: 5 from r8c3.");
+}
+
+TEST_F(Explanations, AHiddenTripleOfDigitsWithPlacesOfTheirOwn) {
+  hold({{{1, 1}, {1, 3, 7}}, {{1, 2}, {1, 2, 8}}, {{1, 3}, {2, 3, 9}}, {{1, 4}, {7, 8, 9}}});
+  fire(technique_named("hidden_triple"));
+  EXPECT_EQ(english(),
+            "Hidden triple: in row 1, the 1 can only go in r1c1 or r1c2; the 2 only in r1c2 or "
+            "r1c3; the 3 only in r1c1 or r1c3. These three digits take these three cells, so no "
+            "other digit can go there. To remove: 7 from r1c1; 8 from r1c2; 9 from r1c3.");
+  EXPECT_EQ(french(),
+            set_in_french(
+                "Triplet caché~: dans la ligne 1, le 1 ne va qu'en L1C1 ou L1C2~; le 2 qu'en L1C2 "
+                "ou L1C3~; le 3 qu'en L1C1 ou L1C3. Ces trois chiffres prennent ces trois cases~: "
+                "aucun autre chiffre n'y a de place. À retirer~: 7 de L1C1~; 8 de L1C2~; 9 de "
+                "L1C3."));
+}
+
 TEST_F(Explanations, FinnedXWing) {
   hold({{{2, 6}, {4}}, {{2, 9}, {4}}, {{5, 4}, {4}}, {{5, 6}, {4}}, {{5, 9}, {4}}, {{6, 6}, {4}}});
   fire(technique_named("finned_x_wing"));

@@ -7,6 +7,7 @@
 
 #include "pas_a_pas/view.hpp"
 #include "tools/guide/pictures.hpp"
+#include "tools/guide/positions.hpp"
 #include "tools/guide/studio.hpp"
 #include "ui/qt/cell_painter.hpp"
 
@@ -91,6 +92,15 @@ class PicturesTest : public QObject {
     const QImage step = image("step-xy_wing");
     QCOMPARE(step.size(), QSize(9 * cell_side, 9 * cell_side) * picture_scale);
     QCOMPARE(step.devicePixelRatio(), 3.0);
+  }
+
+  void a_step_has_the_marks_of_what_it_removes_or_rests_on() {
+    for (const GuidePosition& position : positions()) {
+      const std::string name = "step-" + name_of(position);
+      const QImage step = image(QString::fromStdString(name));
+      QVERIFY2(has(step, QColor(0xFF, 0, 0xFF)) || has(step, QColor(0xC0, 0xFF, 0xC0)),
+               name.c_str());
+    }
   }
 
   void the_window_is_shown_narrow_and_wide_as_the_player_sees_it() {

@@ -136,6 +136,17 @@ TEST(Solver, SolvesGridsThatNeedManyGuesses) {
       "230000010048200006000009000802000050090010602005000003000600000003070000087591300");
 }
 
+/// Looking ahead takes candidates out of them and ends without having filled them.
+TEST(Solver, SolvesGridsThatLookingAheadOnlyNarrows) {
+  expect_solved(
+      ".....5.8....6.1243..........1.5........1.6...3.......553.....69........4.........");
+  expect_solved(
+      ".....5.8....6.1.43..........1.5........1.6..83.......553......1........4.........");
+  EXPECT_EQ(
+      answer(".132.......6....7...9....36............................3....96..9..3.....61.9...."),
+      "none");
+}
+
 TEST(Solver, AgreesWithAPlainSearchOnRandomGrids) {
   std::mt19937 random(1);
   for (int run = 0; run < 500; ++run) expect_agreement(random_puzzle(random, 26 + run % 40));

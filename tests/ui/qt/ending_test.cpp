@@ -117,6 +117,13 @@ class EndingTest : public QObject {
     QVERIFY_THROWS_EXCEPTION(ProgramEnd, play_->guard.rethrow());
   }
 
+  void a_box_that_the_end_closes_has_no_answer() {
+    later(50, [this] { play_->guard.run([] { throw ProgramEnd{3}; }); });
+    QVERIFY_THROWS_EXCEPTION(ProgramEnd, play_->desktop.message_box("Solve?", Icon::question,
+                                                                    Buttons::yes_no, "SuDoKu"));
+    QCOMPARE(play_->guard.status(), 3);
+  }
+
   void a_search_solves_the_puzzle() {
     BoxAnswer completed(QMessageBox::Ok);
     play_->run_program([this] { play_->click("Bouton_GO"); });
